@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+/// The program's own folder: the given one, else $PRELT_HOME, else the executable's folder if it holds a store, else
+/// the user's data folder.
+QString homeFolder(const QString &given = {});
+
+/// The reference store in a folder.
+QString configStore(const QString &home);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The nine model names, the keys of every per-model table, in the order the selectors list them.
+const QStringList &modelNames();
+
+/// The model of a regulatory number ("A1660"). Exact and case-sensitive; empty when the number is not known.
+QString modelForNumber(const QString &number);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "language.h"
+#include "store.h"
+
+/// The settings that `Combos` keeps, by their column number.
+enum class Combo { VCoreVolts = 1, VCoreMilli, BuckLdoVolts, BuckLdoMilli, PmuVolts, PmuMilli, LinkSpeed };
+
+Result<QString> combo(const Store &store, Combo which);
+Result<Done> setCombo(Store &store, Combo which, const QString &value);
+
+/// The language of `Tools`; a number that is none of the three comes back as it is.
+Result<Language> language(const Store &store);
+Result<Done> setLanguage(Store &store, Language language);
+
+/// The last model chosen, or empty.
+Result<QString> lastModel(const Store &store);
+Result<Done> rememberModel(Store &store, const QString &model);

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "result.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <chrono>
+
+struct Query;
+
+/// One unit of work on a store: opened for it, closed after it.
+class Store
+{
+public:
+    enum class Access { Read, Write };
+
+    /// Opens the file of a store. A locked one is waited for as long as `patience` says. Trouble: STORE_MISSING,
+    /// STORE_LOCKED, STORE_READ_ONLY, STORE_DAMAGED, STORE_FULL or STORE_FAILED, with the path and the reason.
+    static Result<Store> open(const QString &path, Access access, std::chrono::milliseconds patience);
+
+    Store(Store &&other) noexcept;
+    Store &operator=(Store &&) = delete;
+    ~Store();
+
+    /// A query of the catalogue, prepared; its placeholders are bound by the caller.
+    QSqlQuery prepared(const Query &query) const;
+
+    /// What the last error of a query comes to, in words for a person.
+    Trouble trouble(const QSqlQuery &query) const;
+
+    QString path() const { return m_path; }
+
+private:
+    explicit Store(QString connection, QString path);
+    QSqlDatabase database() const;
+
+    friend class Transaction;
+    QString m_connection;
+    QString m_path;
+};
+
+/// Rolls back unless it was committed.
+class Transaction
+{
+public:
+    static Result<Transaction> begin(Store &store);
+    Transaction(Transaction &&other) noexcept;
+    Transaction &operator=(Transaction &&) = delete;
+    ~Transaction();
+    Result<Done> commit();
+
+private:
+    explicit Transaction(Store &store) : m_store(&store) {}
+    Store *m_store = nullptr;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "result.h"
+
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+/// What a simulated phone answers and how it misbehaves.
+struct PhoneProfile
+{
+    QString model;       ///< one of the nine names
+    QString modelNumber; ///< what it says of itself ("A1660"), or a whole other answer to the model query
+    QMap<QString, QString> rails; ///< value token by output label ("BIST ldo2:"), "timeout" among them; no entry: no line
+    bool splitPrompt = false;
+    std::optional<qsizetype> dropAt; ///< the line goes dead after so many bytes of a reply
+    bool silent = false;
+    bool crlf = false;
+};
+
+/// The profile of a text "MODEL[,fault…]" such as "IP 7,ldo2=1200,crlf". Trouble names the part that is not known
+/// and lists what is.
+Result<PhoneProfile> profileFor(const QString &text);
+
+/// The whole answer to a command line: echo, body and prompt, in bytes.
+QByteArray answer(const PhoneProfile &profile, const QByteArray &command);

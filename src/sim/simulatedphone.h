@@ -1,0 +1,34 @@
+#pragma once
+
+#include "phoneprofile.h"
+
+#include <QObject>
+
+#include <memory>
+
+/// A phone in diagnostics mode behind a real pseudo-terminal: whoever opens `device()` talks to it as to a Box.
+class SimulatedPhone : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Bytes per second of the line; 0 sends as fast as the reader takes it.
+    static constexpr int kPace = 11520;
+
+    explicit SimulatedPhone(PhoneProfile profile, int bytesPerSecond = kPace, QObject *parent = nullptr);
+    ~SimulatedPhone() override;
+
+    /// The path of the slave side, or empty when no pseudo-terminal could be made.
+    QString device() const;
+
+    /// Pulls the cable: the master side is closed.
+    void unplug();
+
+signals:
+    /// A command line arrived, without its line end.
+    void commandReceived(const QByteArray &command);
+
+private:
+    struct Terminal;
+    std::unique_ptr<Terminal> m_terminal;
+};
