@@ -9,7 +9,13 @@
 /// missing row is seen at once.
 QString caption(QStringView key, Language language);
 
-enum class MessageIcon { None, Information, Critical, Question };
+enum class MessageIcon
+{
+    None,
+    Information,
+    Critical,
+    Question
+};
 
 /// What a message box shows.
 struct Message
