@@ -2,6 +2,7 @@
 
 #include <QStringView>
 
+#include <array>
 #include <span>
 
 /// A caption: its key and its text in each language.
@@ -13,5 +14,19 @@ struct CaptionRow
     QStringView spanish;
 };
 
-/// The captions in the order in which they are searched: the first row of a key decides.
-std::span<const CaptionRow> captionTable();
+using CaptionTable = std::span<const CaptionRow>;
+
+/// Connection, models, languages, boxes that ask, updates.
+CaptionTable windowCaptions();
+/// What the reading and test screens show.
+CaptionTable screenCaptions();
+/// Console, comparator and command administration.
+CaptionTable consoleCaptions();
+/// Words of the workbench itself: rail, findings, empty states, verdicts, sources.
+CaptionTable workbenchCaptions();
+
+/// All of them in the order in which they are searched: the first row of a key decides.
+inline std::array<CaptionTable, 4> captionTables()
+{
+    return {windowCaptions(), screenCaptions(), consoleCaptions(), workbenchCaptions()};
+}
