@@ -12,7 +12,8 @@ struct PhoneProfile
 {
     QString model;       ///< one of the nine names
     QString modelNumber; ///< what it says of itself ("A1660"), or a whole other answer to the model query
-    QMap<QString, QString> rails; ///< value token by output label ("BIST ldo2:"), "timeout" among them; no entry: no line
+    QMap<QString, QString>
+        rails; ///< value token by output label ("BIST ldo2:"), "timeout" among them; no entry: no line
     bool splitPrompt = false;
     std::optional<qsizetype> dropAt; ///< the line goes dead after so many bytes of a reply
     bool silent = false;

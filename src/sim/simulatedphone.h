@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 
 /// A phone in diagnostics mode behind a real pseudo-terminal: whoever opens `device()` talks to it as to a Box.
@@ -21,6 +22,9 @@ public:
     /// The path of the slave side, or empty when no pseudo-terminal could be made.
     QString device() const;
 
+    /// How long after the first byte of a reply its prompt comes at the earliest; 120 ms, longer than a fast poll.
+    void setPromptDelay(std::chrono::milliseconds delay);
+
     /// Pulls the cable: the master side is closed.
     void unplug();
 
@@ -29,6 +33,11 @@ signals:
     void commandReceived(const QByteArray &command);
 
 private:
+    void takeInput();
+    void answerNext();
+    void send();
+    void finishReply();
+
     struct Terminal;
     std::unique_ptr<Terminal> m_terminal;
 };

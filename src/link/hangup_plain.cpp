@@ -1,0 +1,6 @@
+#include "hangup.h"
+
+bool hasHungUp(const QSerialPort &)
+{
+    return false;
+}

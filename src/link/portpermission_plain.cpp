@@ -1,0 +1,6 @@
+#include "portpermission.h"
+
+std::optional<QString> groupMissingFor(const QString &)
+{
+    return std::nullopt;
+}

@@ -1,0 +1,169 @@
+#include "phoneprofile.h"
+
+#include "healthyrails.h"
+#include "models.h"
+#include "pmuoutputs.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ModelNumber
+{
+    QLatin1StringView model;
+    QLatin1StringView number;
+};
+
+constexpr ModelNumber kNumbers[] = {
+    {"IP 6"_L1, "A1586"_L1},       {"IP 6 Plus"_L1, "A1524"_L1}, {"IP 6s"_L1, "A1688"_L1},
+    {"IP 6s Plus"_L1, "A1687"_L1}, {"IP 7"_L1, "A1660"_L1},      {"IP 7 Plus"_L1, "A1661"_L1},
+    {"IP 8"_L1, "A1863"_L1},       {"IP 8 Plus"_L1, "A1864"_L1}, {"IP X"_L1, "A1865"_L1},
+};
+
+/// A fault as it was typed: "ldo2=1200", "drop@1200", "crlf".
+struct Fault
+{
+    QString name;
+    QString value;
+};
+
+struct FaultRow
+{
+    QLatin1StringView name;
+    QLatin1StringView form;
+    bool (*apply)(PhoneProfile &, const QString &value);
+};
+
+bool setModelNumber(PhoneProfile &profile, const QString &value)
+{
+    profile.modelNumber = value;
+    return !value.isEmpty();
+}
+
+bool setPrompt(PhoneProfile &profile, const QString &value)
+{
+    profile.splitPrompt = value.compare("split"_L1, Qt::CaseInsensitive) == 0;
+    return profile.splitPrompt;
+}
+
+bool setDrop(PhoneProfile &profile, const QString &value)
+{
+    bool isNumber = false;
+    const int bytes = value.toInt(&isNumber);
+    profile.dropAt = bytes;
+    return isNumber && bytes >= 0;
+}
+
+bool setSilent(PhoneProfile &profile, const QString &value)
+{
+    profile.silent = true;
+    return value.isEmpty();
+}
+
+bool setCrlf(PhoneProfile &profile, const QString &value)
+{
+    profile.crlf = true;
+    return value.isEmpty();
+}
+
+constexpr FaultRow kFaults[] = {
+    {"model"_L1, "model=TEXT"_L1, setModelNumber},
+    {"prompt"_L1, "prompt=split"_L1, setPrompt},
+    {"drop"_L1, "drop@BYTES"_L1, setDrop},
+    {"silent"_L1, "silent"_L1, setSilent},
+    {"crlf"_L1, "crlf"_L1, setCrlf},
+};
+
+Fault faultFrom(const QString &text)
+{
+    static const QRegularExpression sign(u"[=@]"_s);
+    return {text.section(sign, 0, 0).trimmed().toLower(), text.section(sign, 1).trimmed()};
+}
+
+/// The value that a rail prints: millivolts or milliamperes, "off" or "timeout".
+std::optional<QString> railToken(const QString &value)
+{
+    if (value == "timeout"_L1)
+        return value;
+    if (value == "off"_L1)
+        return valueToken(0.0);
+    bool isNumber = false;
+    const double milli = value.toDouble(&isNumber);
+    return isNumber && std::isfinite(milli) ? std::optional(valueToken(milli)) : std::nullopt;
+}
+
+bool setRail(PhoneProfile &profile, const Fault &fault)
+{
+    const auto rail = profile.rails.find(pmuLabel(fault.name));
+    const std::optional<QString> token = railToken(fault.value.toLower());
+    if (rail == profile.rails.end() || !token)
+        return false;
+    *rail = *token;
+    return true;
+}
+
+bool apply(PhoneProfile &profile, const Fault &fault)
+{
+    const auto row = std::ranges::find(kFaults, fault.name, &FaultRow::name);
+    return row == std::end(kFaults) ? setRail(profile, fault) : row->apply(profile, fault.value);
+}
+
+/// The faults that a phone of this model can have, as they are typed.
+QString knownFaults(const PhoneProfile &profile)
+{
+    QStringList known;
+    for (const FaultRow &row : kFaults)
+        known.append(row.form);
+    const QStringList outputs = pmuOutputs();
+    for (const QString &output : outputs) {
+        if (profile.rails.contains(pmuLabel(output)))
+            known.append(output + "=VALUE|off|timeout"_L1);
+    }
+    return known.join(", "_L1);
+}
+
+Trouble unknown(const QString &part, const QString &known)
+{
+    return {{u"SIM_UNKNOWN"_s, {part, known}}};
+}
+
+QString modelNamed(const QString &typed)
+{
+    for (const QString &model : modelNames()) {
+        if (model.compare(typed, Qt::CaseInsensitive) == 0)
+            return model;
+    }
+    return {};
+}
+
+PhoneProfile healthy(const QString &model)
+{
+    PhoneProfile profile;
+    profile.model = model;
+    profile.rails = healthyRails(model);
+    const auto row = std::ranges::find(kNumbers, model, &ModelNumber::model);
+    profile.modelNumber = row == std::end(kNumbers) ? QString() : QString(row->number);
+    return profile;
+}
+
+} // namespace
+
+Result<PhoneProfile> profileFor(const QString &text)
+{
+    QStringList parts = text.split(u',');
+    const QString typedModel = parts.takeFirst().simplified();
+    const QString model = modelNamed(typedModel);
+    if (model.isEmpty())
+        return unknown(typedModel, modelNames().join(", "_L1));
+    PhoneProfile profile = healthy(model);
+    for (const QString &part : std::as_const(parts)) {
+        if (!apply(profile, faultFrom(part.trimmed())))
+            return unknown(part.trimmed(), knownFaults(profile));
+    }
+    return profile;
+}
