@@ -8,8 +8,10 @@ namespace {
 
 Notice remedyFor(const QString &device)
 {
-    const std::optional<QString> group = groupMissingFor(device);
-    return group ? Notice{u"REMEDY_GROUP"_s, {*group}} : Notice{u"REMEDY_IN_USE"_s, {device}};
+    const std::optional<DeviceGroup> group = groupMissingFor(device);
+    if (!group)
+        return {u"REMEDY_IN_USE"_s, {device}};
+    return {group->joined ? u"REMEDY_NEW_LOGIN"_s : u"REMEDY_GROUP"_s, {group->name}};
 }
 
 } // namespace
@@ -24,6 +26,6 @@ Trouble openError(const QString &device, QSerialPort::SerialPortError error)
     if (error == QSerialPort::PermissionError)
         return {{u"MSG_PORTA_EM_USO"_s, {device}}, {remedyFor(device)}};
     if (error == QSerialPort::DeviceNotFoundError)
-        return {{u"MSG_PORTA_INVALIDA"_s, {device}}};
+        return {{u"MSG_PORTA_INVALIDA"_s, {device}}, {{u"REMEDY_NO_PORT"_s}}};
     return notAPort(device);
 }

@@ -4,6 +4,13 @@
 
 #include <optional>
 
-/// The group that a user has to join before this device opens. Nothing when the user may open it already, or where
-/// the system knows no such groups.
-std::optional<QString> groupMissingFor(const QString &device);
+/// Who may open a device that this user may not.
+struct DeviceGroup
+{
+    QString name;
+    bool joined = false; ///< the user is in it already, but this login began before
+};
+
+/// The group that stands between the user and this device. Nothing when the user may open it, or where the system
+/// knows no such groups.
+std::optional<DeviceGroup> groupMissingFor(const QString &device);

@@ -1,6 +1,6 @@
 #include "portpermission.h"
 
-std::optional<QString> groupMissingFor(const QString &)
+std::optional<DeviceGroup> groupMissingFor(const QString &)
 {
     return std::nullopt;
 }
