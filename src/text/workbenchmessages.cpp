@@ -115,11 +115,14 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
       u"prelt run buckldo --port \"sim:IP 6s\"",
       u"No hay pantalla gráfica: la ventana no puede abrirse. Use el programa de terminal, por ejemplo:\n"
       u"prelt run buckldo --port \"sim:IP 6s\""}},
+    // %1 the part that is not known, %2 what is
     {u"SIM_UNKNOWN",
      Information,
-     {u"Telefone simulado não reconhecido: %1\nInforme um modelo e falhas, por exemplo \"sim:IP 7,ldo2=1200\".",
-      u"Simulated phone not understood: %1\nName a model and faults, for example \"sim:IP 7,ldo2=1200\".",
-      u"Teléfono simulado no reconocido: %1\nIndique un modelo y fallas, por ejemplo \"sim:IP 7,ldo2=1200\"."}},
+     {u"Telefone simulado não reconhecido: %1\nInforme um modelo e falhas, por exemplo \"sim:IP 7,ldo2=1200\".\n"
+      u"Conhecidos: %2",
+      u"Simulated phone not understood: %1\nName a model and faults, for example \"sim:IP 7,ldo2=1200\".\nKnown: %2",
+      u"Teléfono simulado no reconocido: %1\nIndique un modelo y fallas, por ejemplo \"sim:IP 7,ldo2=1200\".\n"
+      u"Conocidos: %2"}},
     {u"SIM_UNAVAILABLE",
      Critical,
      {u"O telefone simulado não pôde ser iniciado neste sistema.\n%1",
