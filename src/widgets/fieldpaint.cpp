@@ -1,0 +1,112 @@
+#include "fieldpaint.h"
+
+#include "theme.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+/// Calls the action with the control as the first of these types that it is.
+template <typename... Types, typename Action>
+static void as(QWidget &control, Action action)
+{
+    const auto tried = [&](auto *typed) {
+        if (typed)
+            action(*typed);
+        return typed != nullptr;
+    };
+    (tried(qobject_cast<Types *>(&control)) || ...);
+}
+
+static void setText(QWidget &control, const QString &text)
+{
+    as<QLabel, QAbstractButton, QLineEdit>(control, [&](auto &typed) { typed.setText(text); });
+    as<QGroupBox>(control, [&](QGroupBox &box) { box.setTitle(text); });
+}
+
+static void setChecked(QWidget &control, bool checked)
+{
+    as<QAbstractButton, QGroupBox>(control, [&](auto &typed) { typed.setChecked(checked); });
+}
+
+static void setValue(QWidget &control, int value)
+{
+    as<QProgressBar, QAbstractSlider>(control, [&](auto &typed) { typed.setValue(value); });
+}
+
+/// The chosen entry stays chosen where the new list still has it.
+static void setItems(QWidget &control, const QStringList &items)
+{
+    as<QComboBox>(control, [&](QComboBox &combo) {
+        const QString chosen = combo.currentText();
+        combo.clear();
+        combo.addItems(items);
+        if (const int place = combo.findText(chosen); place >= 0)
+            combo.setCurrentIndex(place);
+    });
+}
+
+static QPalette colouredPalette(const QColor &back, const QColor &fore)
+{
+    QPalette palette;
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        palette.setColor(role, back);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, fore);
+    return palette;
+}
+
+static void setColours(QWidget &control, const Field &field)
+{
+    const Theme &theme = currentTheme();
+    const Colour behind = field.back.value_or(Colour::Neutral);
+    const QColor back = field.back ? fieldColour(behind, theme) : control.palette().color(QPalette::Window);
+    const QColor fore = inkColour(field.fore.value_or(Colour::Text), behind, theme);
+    control.setAutoFillBackground(field.back.has_value());
+    control.setPalette(colouredPalette(back, fore));
+    // The style sheet of buttons and edits outweighs their palette.
+    if (qobject_cast<QAbstractButton *>(&control) || qobject_cast<QLineEdit *>(&control))
+        control.setStyleSheet(u"background: %1; color: %2;"_s.arg(back.name(), fore.name()));
+}
+
+/// Takes over a part that is set and new, and says whether it was.
+template <typename Part>
+static bool taken(std::optional<Part> &painted, const std::optional<Part> &wanted)
+{
+    if (!wanted || painted == wanted)
+        return false;
+    painted = wanted;
+    return true;
+}
+
+Field paintField(QWidget &control, const Field &field, const Field &painted)
+{
+    // What a reading shows is no choice of the user's: nobody is told that it "changed".
+    const QSignalBlocker quiet(control);
+    Field now = painted;
+    if (taken(now.items, field.items))
+        setItems(control, *now.items);
+    if (taken(now.text, field.text))
+        setText(control, *now.text);
+    if (taken(now.checked, field.checked))
+        setChecked(control, *now.checked);
+    if (taken(now.value, field.value))
+        setValue(control, *now.value);
+    if (taken(now.tip, field.tip))
+        control.setToolTip(*now.tip);
+    if (taken(now.enabled, field.enabled))
+        control.setEnabled(*now.enabled);
+    if (taken(now.visible, field.visible))
+        control.setVisible(*now.visible);
+    const bool backTaken = taken(now.back, field.back);
+    if (taken(now.fore, field.fore) || backTaken)
+        setColours(control, now);
+    return now;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "language.h"
+
+#include <QTableView>
+
+class PanelModel;
+
+/// The table of a panel's rows. It copies as text, exports as CSV, and says what to do while it is empty.
+class PanelGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit PanelGrid(PanelModel &rows, QWidget *parent = nullptr);
+
+    void setLanguage(Language language);
+    /// What stands in the table while it has no rows.
+    void setEmptyText(const QString &text);
+    /// The name that the export suggests, without ending.
+    void setExportName(const QString &name) { m_exportName = name; }
+
+    /// The selected cells as text; without a selection the whole table with its captions.
+    QString copyText() const;
+    QByteArray csv() const;
+
+public slots:
+    void copy();
+    /// Asks for a file and writes the table there.
+    void exportCsv();
+
+signals:
+    void exported(const QString &path);
+    void exportFailed(const QString &path, const QString &reason);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void writeCsv(const QString &path);
+    void fitColumns();
+
+    PanelModel &m_rows;
+    Language m_language = Language::English;
+    QString m_emptyText;
+    QString m_exportName;
+};

@@ -1,0 +1,43 @@
+#include "screenform.h"
+
+#include "catalogue.h"
+
+ScreenForm::ScreenForm(std::unique_ptr<Screen> screen, QWidget *parent) : QWidget(parent), m_screen(std::move(screen))
+{
+    setObjectName(m_screen->name());
+    connect(m_screen.get(), &Screen::panelChanged, this, &ScreenForm::paintPanel);
+    connect(&m_screen->session(), &Session::languageChanged, this, [this] { Traducao_Form(); });
+}
+
+void ScreenForm::CarregaDados()
+{
+    Traducao_Form();
+    m_screen->open();
+}
+
+Language ScreenForm::language() const
+{
+    return m_screen->session().language();
+}
+
+QString ScreenForm::text(QStringView key) const
+{
+    return caption(key, language());
+}
+
+void ScreenForm::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_screen->setShown(true);
+}
+
+void ScreenForm::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_screen->setShown(false);
+}
+
+void ScreenForm::paintPanel()
+{
+    m_painter.paint(m_screen->panel());
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "painter.h"
+#include "screen.h"
+
+#include <QWidget>
+
+#include <memory>
+
+/// A form over one screen: it lays controls out, paints the screen's panel onto them and forwards clicks.
+class ScreenForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ScreenForm(std::unique_ptr<Screen> screen, QWidget *parent = nullptr);
+
+    Screen &screen() const { return *m_screen; }
+
+    /// Sets every caption in the session's language.
+    virtual void Traducao_Form() = 0;
+    /// Fills the form when it is opened.
+    virtual void CarregaDados();
+
+protected:
+    Painter &painter() { return m_painter; }
+    Language language() const;
+    QString text(QStringView key) const;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    /// Paints the screen's panel; a form that shows more than named controls adds to it.
+    virtual void paintPanel();
+
+private:
+    std::unique_ptr<Screen> m_screen;
+    Painter m_painter{*this};
+};
+
+/// Gives a control its name for scripts; its accessible name follows with its caption.
+template <typename T>
+T *named(T *control, const QString &name)
+{
+    control->setObjectName(name);
+    return control;
+}
