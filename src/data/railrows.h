@@ -12,24 +12,33 @@ struct RailRow
 {
     qint64 id = 0;
     QString modelo;
-    int tipo = 0;    ///< kind: 0 core rails, 1 LDOs, 2 bucks
-    QString orig;    ///< the output, "Buck3"; current rows carry "mA" in front
-    QString malha;   ///< the net
-    QString ci;      ///< the chip or block it feeds
-    QString refT;    ///< reading index; empty: shown, never read
-    QString refV;    ///< nominal in volts; empty: unknown, "0": nothing to judge
-    QString ref;     ///< the reference as shown
-    QString leitura; ///< last reading as shown
-    QString porc;    ///< its deviation as shown
+    int tipo = 0;             ///< kind: 0 core rails, 1 LDOs, 2 bucks
+    QString orig;             ///< the output, "Buck3"; current rows carry "mA" in front
+    QString malha;            ///< the net
+    QString ci;               ///< the chip or block it feeds
+    QString refT;             ///< reading index; empty: shown, never read
+    QString refV;             ///< nominal in volts; empty: unknown, "0": nothing to judge
+    QString ref;              ///< the reference as shown
+    QString leitura;          ///< last reading as shown
+    QString porc;             ///< its deviation as shown
     std::array<QString, 3> g; ///< the technician's recorded readings
-    QString source;     ///< where the reference comes from
-    QString confidence; ///< "high", "medium", "low", or empty when not known
+    QString source;           ///< where the reference comes from
+    QString confidence;       ///< "high", "medium", "low", or empty when not known
 
     friend bool operator==(const RailRow &, const RailRow &) = default;
 };
 
 /// The orders in which rails are listed.
-enum class RailOrder { Orig, ModeloOrig, CiOrig, PorcDescending, Malha, ModeloMalha, CiMalha };
+enum class RailOrder
+{
+    Orig,
+    ModeloOrig,
+    CiOrig,
+    PorcDescending,
+    Malha,
+    ModeloMalha,
+    CiMalha
+};
 
 struct RailFilter
 {
@@ -47,7 +56,12 @@ Result<Done> clearReadings(Store &store);
 /// Clears every reading, then writes `Leitura` and `PORC` of these rows by id; all in one transaction.
 Result<Done> writeReadings(Store &store, const QList<RailRow> &rows);
 
-enum class Slot { G1, G2, G3 };
+enum class Slot
+{
+    G1,
+    G2,
+    G3
+};
 
 /// A recorded text for one row.
 struct SlotText

@@ -4,7 +4,16 @@
 #include "store.h"
 
 /// The settings that `Combos` keeps, by their column number.
-enum class Combo { VCoreVolts = 1, VCoreMilli, BuckLdoVolts, BuckLdoMilli, PmuVolts, PmuMilli, LinkSpeed };
+enum class Combo
+{
+    VCoreVolts = 1,
+    VCoreMilli,
+    BuckLdoVolts,
+    BuckLdoMilli,
+    PmuVolts,
+    PmuMilli,
+    LinkSpeed
+};
 
 Result<QString> combo(const Store &store, Combo which);
 Result<Done> setCombo(Store &store, Combo which, const QString &value);
@@ -16,3 +25,7 @@ Result<Done> setLanguage(Store &store, Language language);
 /// The last model chosen, or empty.
 Result<QString> lastModel(const Store &store);
 Result<Done> rememberModel(Store &store, const QString &model);
+
+/// A setting of the added table by its name, whatever its letter case; empty when it was never set.
+Result<QString> setting(const Store &store, const QString &name);
+Result<Done> setSetting(Store &store, const QString &name, const QString &value);

@@ -4,6 +4,7 @@
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QVariantMap>
 
 #include <chrono>
 
@@ -13,18 +14,32 @@ struct Query;
 class Store
 {
 public:
-    enum class Access { Read, Write };
+    enum class Access
+    {
+        Read,
+        Write
+    };
 
     /// Opens the file of a store. A locked one is waited for as long as `patience` says. Trouble: STORE_MISSING,
     /// STORE_LOCKED, STORE_READ_ONLY, STORE_DAMAGED, STORE_FULL or STORE_FAILED, with the path and the reason.
     static Result<Store> open(const QString &path, Access access, std::chrono::milliseconds patience);
 
+    /// Makes the tables in an empty file, and gives it open for writing.
+    static Result<Store> makeTables(const QString &emptyFile);
+
     Store(Store &&other) noexcept;
     Store &operator=(Store &&) = delete;
     ~Store();
 
-    /// A query of the catalogue, prepared; its placeholders are bound by the caller.
+    /// A query of the catalogue, prepared; its placeholders are bound by the caller. A null text must not be bound:
+    /// no column takes null (see `run`). The query must be gone before the store is.
     QSqlQuery prepared(const Query &query) const;
+
+    /// A query of the catalogue, executed with these values by placeholder (":model"). Null texts are taken as empty.
+    Result<QSqlQuery> run(const Query &query, const QVariantMap &values = {}) const;
+
+    /// Executes a prepared query again, with other values.
+    Result<Done> rerun(QSqlQuery &query, const QVariantMap &values) const;
 
     /// What the last error of a query comes to, in words for a person.
     Trouble trouble(const QSqlQuery &query) const;
@@ -34,6 +49,10 @@ public:
 private:
     explicit Store(QString connection, QString path);
     QSqlDatabase database() const;
+    static Result<Store> connected(const QString &path, std::chrono::milliseconds patience);
+    Result<Done> execute(const QString &statement) const;
+    Result<Done> checkTables() const;
+    Result<Done> prepareFor(Access access) const;
 
     friend class Transaction;
     QString m_connection;

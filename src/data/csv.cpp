@@ -1,0 +1,79 @@
+#include "csv.h"
+
+namespace {
+
+class CsvReader
+{
+public:
+    explicit CsvReader(QStringView text) : m_rest(text.startsWith(u'\ufeff') ? text.mid(1) : text) {}
+
+    bool atEnd() const { return m_rest.isEmpty(); }
+
+    std::optional<QStringList> record()
+    {
+        QStringList cells;
+        do {
+            const std::optional<QString> next = takeFront(u'"') ? quotedCell() : plainCell();
+            if (!next)
+                return {};
+            cells += *next;
+        } while (takeFront(u','));
+        return takeLineEnd() ? std::optional(cells) : std::nullopt;
+    }
+
+private:
+    bool takeFront(QChar wanted)
+    {
+        if (!m_rest.startsWith(wanted))
+            return false;
+        m_rest = m_rest.mid(1);
+        return true;
+    }
+
+    bool takeLineEnd()
+    {
+        if (atEnd())
+            return true;
+        takeFront(u'\r');
+        return takeFront(u'\n');
+    }
+
+    QString plainCell()
+    {
+        qsizetype end = 0;
+        while (end < m_rest.size() && m_rest[end] != u',' && m_rest[end] != u'\n')
+            ++end;
+        if (end > 0 && end < m_rest.size() && m_rest[end] == u'\n' && m_rest[end - 1] == u'\r')
+            --end;
+        return std::exchange(m_rest, m_rest.mid(end)).left(end).toString();
+    }
+
+    std::optional<QString> quotedCell()
+    {
+        QString cell;
+        for (qsizetype quote = m_rest.indexOf(u'"'); quote >= 0; quote = m_rest.indexOf(u'"')) {
+            cell += m_rest.left(quote);
+            m_rest = m_rest.mid(quote + 1);
+            if (!takeFront(u'"'))
+                return cell;
+            cell += u'"';
+        }
+        return {};
+    }
+
+    QStringView m_rest;
+};
+
+} // namespace
+
+std::optional<QList<QStringList>> csvRecords(QStringView text)
+{
+    QList<QStringList> records;
+    for (CsvReader reader(text); !reader.atEnd();) {
+        const std::optional<QStringList> record = reader.record();
+        if (!record)
+            return {};
+        records += *record;
+    }
+    return records;
+}

@@ -1,0 +1,79 @@
+#include "queries.h"
+
+using namespace Qt::StringLiterals;
+
+QString likePattern(const QString &wildcards)
+{
+    QString pattern;
+    for (const QChar character : wildcards) {
+        if (character == u'%' || character == u'_' || character == u'\\')
+            pattern += u'\\';
+        pattern += character == u'*' ? u'%' : character;
+    }
+    return pattern;
+}
+
+std::span<const Query *const> queryCatalogue()
+{
+    static constexpr const Query *kAll[] = {
+        &kHasMaster,
+        &kMaster,
+        &kRailsByOrig,
+        &kReadableRails,
+        &kReadableVolts,
+        &kReadableCurrents,
+        &kRailsByModelOrig,
+        &kRailsByChipOrig,
+        &kRailsByPorc,
+        &kRailsByMalha,
+        &kRailsByModelMalha,
+        &kRailsByChipMalha,
+        &kRailsOfChip,
+        &kChipRails,
+        &kRailsOfNet,
+        &kRailSources,
+        &kClearReadings,
+        &kWriteReading,
+        &kWriteG1,
+        &kWriteG2,
+        &kWriteG3,
+        &kRfRows,
+        &kBusDevices,
+        &kCommands,
+        &kCommandsSorted,
+        &kCommand,
+        &kRecordings,
+        &kRecording,
+        &kNoRecording,
+        &kNoRecordingOfCommand,
+        &kMasks,
+        &kMasksDescending,
+        &kCombos,
+        &kIdioma,
+        &kNome,
+        &kSyncbd,
+        &kUltimo,
+        &kSetCombo[0],
+        &kSetCombo[1],
+        &kSetCombo[2],
+        &kSetCombo[3],
+        &kSetCombo[4],
+        &kSetCombo[5],
+        &kSetCombo[6],
+        &kSetIdioma,
+        &kSetUltimo,
+        &kAddEmptyCombos,
+        &kAddEmptyTools,
+        &kAddEmptyUltimo,
+        &kSetting,
+        &kSetSetting,
+        &kAddRail,
+        &kAddRailSource,
+        &kAddRf,
+        &kAddDevice,
+        &kAddCommand,
+        &kAddTools,
+        &kAddCombos,
+    };
+    return kAll;
+}

@@ -1,0 +1,139 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+#include <string_view>
+
+/// A text that the store understands, under the name it goes by. Values are bound to its placeholders.
+struct Query
+{
+    std::string_view name;
+    std::string_view sql;
+};
+
+/// The pattern of a `like` in which "*" stands for any run of characters and everything else for itself. The queries
+/// of the catalogue take patterns in this form only.
+QString likePattern(const QString &wildcards);
+
+/// Every query of the catalogue.
+std::span<const Query *const> queryCatalogue();
+
+// clang-format off
+
+inline constexpr Query kHasMaster{"HasMaster",
+    "Select 1 from sqlite_master Where type = 'table' and name = 'Master' collate nocase"};
+
+// Rails. Rows that an order leaves equal come in the order in which they were stored.
+inline constexpr Query kMaster{"Master",
+    "Select rowid, * from Master"};
+inline constexpr Query kRailsByOrig{"RailsByOrig",
+    "Select rowid, * from Master Where Modelo = :model and TIPO = :kind order by Orig, rowid"};
+inline constexpr Query kReadableRails{"ReadableRails",
+    "Select rowid, * from Master Where modelo = :model and RefT <> '' and TIPO = :kind order by Modelo, Orig, rowid"};
+inline constexpr Query kReadableVolts{"ReadableVolts",
+    "Select rowid, * from Master Where modelo = :model and RefT <> '' and TIPO = :kind and RefV <> '' "
+    "order by Modelo, Orig, rowid"};
+inline constexpr Query kReadableCurrents{"ReadableCurrents",
+    "Select rowid, * from Master Where modelo = :model and RefT <> '' and TIPO = :kind and Porc = '' "
+    "order by Modelo, Orig, rowid"};
+inline constexpr Query kRailsByModelOrig{"RailsByModelOrig",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by Modelo, Orig, rowid"};
+inline constexpr Query kRailsByChipOrig{"RailsByChipOrig",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by CI, Orig, rowid"};
+// The farthest off first, whichever way; then what has a reading but no deviation; last what was not measured, which
+// shows an empty text or one that ends with "*".
+inline constexpr Query kRailsByPorc{"RailsByPorc",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by "
+    "case when Leitura = '' or Leitura like '%*' then 2 when Porc = '' then 1 else 0 end, "
+    "case when Leitura = '' or Leitura like '%*' then 0 else abs(cast(Porc as real)) end desc, Orig, rowid"};
+inline constexpr Query kRailsByMalha{"RailsByMalha",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by Malha, rowid"};
+inline constexpr Query kRailsByModelMalha{"RailsByModelMalha",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by Modelo, Malha, rowid"};
+inline constexpr Query kRailsByChipMalha{"RailsByChipMalha",
+    "Select rowid, * from Master Where modelo = :model and TIPO = :kind order by CI, Malha, rowid"};
+inline constexpr Query kRailsOfChip{"RailsOfChip",
+    R"(Select rowid, * from Master Where modelo = :model and TIPO = :kind AND Ci like :chip escape '\' )"
+    "order by Modelo, Malha, rowid"};
+inline constexpr Query kChipRails{"ChipRails",
+    R"(Select rowid, * from Master Where modelo = :model and Ci like :chip escape '\' order by Malha, rowid)"};
+inline constexpr Query kRailsOfNet{"RailsOfNet",
+    "Select rowid, * from Master Where Modelo = :model and Malha = :net"};
+inline constexpr Query kRailSources{"RailSources",
+    "Select Orig, Confidence, Source from RailSources Where Modelo = :model and TIPO = :kind"};
+// Rows that are empty already stay untouched: a store with nothing to clear is not written.
+inline constexpr Query kClearReadings{"ClearReadings",
+    "Update Master set Leitura = '', PORC = '' Where Leitura <> '' or PORC <> ''"};
+inline constexpr Query kWriteReading{"WriteReading",
+    "Update Master set Leitura = :reading, PORC = :deviation Where rowid = :id"};
+inline constexpr Query kWriteG1{"WriteG1", "Update Master set G1 = :text Where rowid = :id"};
+inline constexpr Query kWriteG2{"WriteG2", "Update Master set G2 = :text Where rowid = :id"};
+inline constexpr Query kWriteG3{"WriteG3", "Update Master set G3 = :text Where rowid = :id"};
+
+// Radio references and expected devices.
+inline constexpr Query kRfRows{"RfRows",
+    "Select * from Rf Where Modelo = :model and Tipo = :kind order by Modelo, Malha, rowid"};
+inline constexpr Query kBusDevices{"BusDevices",
+    R"(Select * from i Where Aparelho = :model and i like :bus escape '\')"};
+
+// Commands, recordings and masked texts.
+inline constexpr Query kCommands{"Commands",
+    "Select rowid, * from Comandos"};
+inline constexpr Query kCommandsSorted{"CommandsSorted",
+    "Select rowid, * from Comandos order by Comando, rowid"};
+inline constexpr Query kCommand{"Command",
+    "Select rowid, * from Comandos where comando = :command"};
+inline constexpr Query kRecordings{"Recordings",
+    "Select rowid, * from Dados"};
+inline constexpr Query kRecording{"Recording",
+    "Select rowid, * From Dados where Aparelho = :model and Comando = :command"};
+inline constexpr Query kNoRecording{"NoRecording",
+    "Select rowid, * From Dados where Aparelho = 'xx'"};
+inline constexpr Query kNoRecordingOfCommand{"NoRecordingOfCommand",
+    "Select rowid, * From Dados where Aparelho = 'xxxxx' and Comando = 'xxxxxxxx'"};
+inline constexpr Query kMasks{"Masks",
+    "Select * from M"};
+inline constexpr Query kMasksDescending{"MasksDescending",
+    "Select * from M order by String desc"};
+
+// Settings: tables of one row, and the added table of key and value.
+inline constexpr Query kCombos{"Combos", "Select * from Combos"};
+inline constexpr Query kIdioma{"Idioma", "Select Idioma from Tools"};
+inline constexpr Query kNome{"Nome", "Select nome from Tools"};
+inline constexpr Query kSyncbd{"Syncbd", "Select syncbd from Tools"};
+inline constexpr Query kUltimo{"Ultimo", "Select * from Ultimo"};
+inline constexpr Query kSetCombo[] = {
+    {"SetCombo1", "Update Combos set Combo1 = :value"}, {"SetCombo2", "Update Combos set Combo2 = :value"},
+    {"SetCombo3", "Update Combos set Combo3 = :value"}, {"SetCombo4", "Update Combos set Combo4 = :value"},
+    {"SetCombo5", "Update Combos set Combo5 = :value"}, {"SetCombo6", "Update Combos set Combo6 = :value"},
+    {"SetCombo7", "Update Combos set Combo7 = :value"},
+};
+inline constexpr Query kSetIdioma{"SetIdioma", "Update Tools set Idioma = :value"};
+inline constexpr Query kSetUltimo{"SetUltimo",
+    "Update Ultimo set Modelo = :value Where rowid = (Select min(rowid) from Ultimo)"};
+inline constexpr Query kAddEmptyCombos{"AddEmptyCombos", "Insert into Combos default values"};
+inline constexpr Query kAddEmptyTools{"AddEmptyTools", "Insert into Tools default values"};
+inline constexpr Query kAddEmptyUltimo{"AddEmptyUltimo", "Insert into Ultimo default values"};
+inline constexpr Query kSetting{"Setting", "Select Value from Settings Where Name = :name"};
+inline constexpr Query kSetSetting{"SetSetting",
+    "Insert into Settings (Name, Value) values (:name, :value) on conflict (Name) do update set Value = excluded.Value"};
+
+// What a new store is filled with.
+inline constexpr Query kAddRail{"AddRail",
+    "Insert into Master (Modelo, TIPO, Orig, Malha, Ci, RefT, RefV, REF) "
+    "values (:Modelo, :TIPO, :Orig, :Malha, :Ci, :RefT, :RefV, :REF)"};
+inline constexpr Query kAddRailSource{"AddRailSource",
+    "Insert into RailSources (Modelo, TIPO, Orig, Confidence, Source) "
+    "values (:Modelo, :TIPO, :Orig, :confidence, :source)"};
+inline constexpr Query kAddRf{"AddRf",
+    "Insert into Rf (Modelo, Malha, Componente, Valor, Tipo) values (:Modelo, :Malha, :Componente, :Valor, :Tipo)"};
+inline constexpr Query kAddDevice{"AddDevice", "Insert into i (Aparelho, i) values (:Aparelho, :i)"};
+inline constexpr Query kAddCommand{"AddCommand",
+    "Insert into Comandos (Comando, Info, Info2, Info3) values (:Comando, :Info, :Info2, :Info3)"};
+inline constexpr Query kAddTools{"AddTools", "Insert into Tools (Idioma, Nome, syncbd) values ('1', '', '0')"};
+inline constexpr Query kAddCombos{"AddCombos",
+    "Insert into Combos (Combo1, Combo2, Combo3, Combo4, Combo5, Combo6, Combo7) "
+    "values ('3', '1', '3', '1', '3', '1', 'G1')"};
+
+// clang-format on

@@ -1,0 +1,86 @@
+#include "railorder.h"
+
+#include "numbertext.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using Comparison = int (*)(const RailRow &, const RailRow &);
+
+template <QString RailRow::*field>
+int byText(const RailRow &left, const RailRow &right)
+{
+    return compareAsStore(left.*field, right.*field);
+}
+
+bool hasReading(const RailRow &row)
+{
+    return !row.leitura.isEmpty() && !row.leitura.endsWith(u'*');
+}
+
+int deviationRank(const RailRow &row)
+{
+    if (!hasReading(row))
+        return 2;
+    return row.porc.isEmpty() ? 1 : 0;
+}
+
+double magnitude(const RailRow &row)
+{
+    return hasReading(row) ? std::abs(leadingNumber(row.porc)) : 0;
+}
+
+int byDeviation(const RailRow &left, const RailRow &right)
+{
+    if (const int ranks = deviationRank(left) - deviationRank(right); ranks != 0)
+        return ranks;
+    return (magnitude(left) < magnitude(right)) - (magnitude(left) > magnitude(right));
+}
+
+int byId(const RailRow &left, const RailRow &right)
+{
+    return (left.id > right.id) - (left.id < right.id);
+}
+
+struct Order
+{
+    RailOrder order;
+    Comparison first = nullptr;
+    Comparison second = byId;
+};
+
+constexpr Order kOrders[] = {
+    {RailOrder::Orig, byText<&RailRow::orig>},
+    {RailOrder::ModeloOrig, byText<&RailRow::modelo>, byText<&RailRow::orig>},
+    {RailOrder::CiOrig, byText<&RailRow::ci>, byText<&RailRow::orig>},
+    {RailOrder::PorcDescending, byDeviation, byText<&RailRow::orig>},
+    {RailOrder::Malha, byText<&RailRow::malha>},
+    {RailOrder::ModeloMalha, byText<&RailRow::modelo>, byText<&RailRow::malha>},
+    {RailOrder::CiMalha, byText<&RailRow::ci>, byText<&RailRow::malha>},
+};
+
+bool isBefore(const Order &order, const RailRow &left, const RailRow &right)
+{
+    for (const Comparison compare : {order.first, order.second, Comparison(byId)})
+        if (const int outcome = compare(left, right); outcome != 0)
+            return outcome < 0;
+    return false;
+}
+
+} // namespace
+
+// The store compares UTF-8 bytes; Qt's lower case of bytes knows A to Z only, as the store's.
+int compareAsStore(const QString &left, const QString &right)
+{
+    return left.toUtf8().toLower().compare(right.toUtf8().toLower());
+}
+
+QList<RailRow> sorted(QList<RailRow> rows, RailOrder order)
+{
+    const Order &row = *std::ranges::find(kOrders, order, &Order::order);
+    std::ranges::stable_sort(rows,
+                             [&row](const RailRow &left, const RailRow &right) { return isBefore(row, left, right); });
+    return rows;
+}

@@ -1,0 +1,56 @@
+#include "schema.h"
+
+#include <QLatin1StringView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Table
+{
+    QLatin1StringView name;
+    QLatin1StringView columns;
+    QLatin1StringView key = {};
+};
+
+constexpr Table kTables[] = {
+    {"Master"_L1, "Modelo TIPO Orig Malha Ci RefT RefV REF Leitura PORC G1 G2 G3"_L1},
+    {"Rf"_L1, "Modelo Malha Componente Valor Tipo"_L1},
+    {"i"_L1, "Aparelho i"_L1},
+    {"Comandos"_L1, "Comando Info Info2 Info3"_L1},
+    {"Dados"_L1, "Aparelho Comando Dados Info Info2 Info3"_L1},
+    {"M"_L1, "String"_L1},
+    {"Combos"_L1, "Combo1 Combo2 Combo3 Combo4 Combo5 Combo6 Combo7 Combo8 Combo9 Combo10"_L1},
+    {"Tools"_L1, "Idioma Nome syncbd"_L1},
+    {"Ultimo"_L1, "Modelo"_L1},
+    {"RailSources"_L1, "Modelo TIPO Orig Confidence Source"_L1, "Modelo, TIPO, Orig"_L1},
+    {"Settings"_L1, "Name Value"_L1, "Name"_L1},
+};
+
+// Texts are never null, so that `<> ''` finds what is filled; they compare, match and sort without regard to the case
+// of the letters A to Z. "TIPO" in capitals is the kind of a rail, the only number.
+QString columnStatement(const QString &name)
+{
+    const bool number = name == "TIPO"_L1;
+    return name + (number ? " integer not null default 0"_L1 : " text collate nocase not null default ''"_L1);
+}
+
+QString tableStatement(const Table &table)
+{
+    QStringList parts;
+    for (const QString &name : QString(table.columns).split(u' '))
+        parts += columnStatement(name);
+    if (!table.key.isEmpty())
+        parts += u"primary key (%1)"_s.arg(table.key);
+    return u"create table %1 (%2)"_s.arg(table.name, parts.join(u", "_s));
+}
+
+} // namespace
+
+QStringList schemaStatements()
+{
+    QStringList statements;
+    for (const Table &table : kTables)
+        statements += tableStatement(table);
+    return statements;
+}
