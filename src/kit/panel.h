@@ -1,5 +1,6 @@
 #pragma once
 
+#include "notice.h"
 #include "verdict.h"
 
 #include <QList>
@@ -11,7 +12,16 @@
 #include <utility>
 
 /// The colours that a reading may give a field, by what they mean.
-enum class Colour { Neutral, Fault, Pass, OutOfTolerance, Status, Text };
+enum class Colour
+{
+    Neutral,
+    Fault,
+    Pass,
+    OutOfTolerance,
+    Status,
+    Text,
+    Face
+};
 
 /// The literal of a colour as scripts know it: "&H00BBGGRR".
 QString literal(Colour colour);
@@ -38,7 +48,7 @@ struct Judgement
     QString what;
     QString reading;
     QString reference;
-    QString source; ///< where the reference comes from
+    QString source;                       ///< where the reference comes from
     std::optional<double> deviation = {}; ///< per cent of the reference; nothing when there is no reading
     std::optional<Rule> rule = {};
     Verdict verdict = Verdict::None;
@@ -55,7 +65,7 @@ struct Row
     std::optional<double> deviation = {};
     std::optional<Rule> rule = {};
     Verdict verdict = Verdict::None;
-    QString source;
+    QString source = {};
 
     QString cell(QStringView column) const;
 
@@ -70,7 +80,7 @@ struct Panel
     QMap<QString, Field> fields; ///< by control name; element n of a control array is "Name(n)"
     QList<Row> rows;
     QStringList lines;
-    QStringList messages; ///< keys of the messages shown, in order
+    QList<Notice> messages; ///< what the reading wants to tell; without a key: title and text of a box of its own
     QList<Judgement> judgements;
     Verdict verdict = Verdict::None;
     QString focus; ///< the control that gets the focus

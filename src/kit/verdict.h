@@ -5,7 +5,13 @@
 #include <optional>
 
 /// What a judgement comes to. Incomplete: nothing faulty, but something that has a reference gave no reading.
-enum class Verdict { None, Pass, Incomplete, Fail };
+enum class Verdict
+{
+    None,
+    Pass,
+    Incomplete,
+    Fail
+};
 
 /// The word for a verdict in scripts: "none", "pass", "incomplete", "fail".
 QString word(Verdict verdict);

@@ -29,6 +29,7 @@ static void setText(QWidget &control, const QString &text)
 {
     as<QLabel, QAbstractButton, QLineEdit>(control, [&](auto &typed) { typed.setText(text); });
     as<QGroupBox>(control, [&](QGroupBox &box) { box.setTitle(text); });
+    as<QComboBox>(control, [&](QComboBox &combo) { combo.setCurrentText(text); });
 }
 
 static void setChecked(QWidget &control, bool checked)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "painter.h"
+#include "panelmodel.h"
 #include "screen.h"
 
 #include <QWidget>

@@ -1,0 +1,171 @@
+#include "railevaluation.h"
+
+#include "numbertext.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+static constexpr auto kNeverMeasured = "*"_L1;
+
+static bool hidesFirstCore(const QString &model)
+{
+    return model.startsWith("IP 8"_L1) || model.startsWith("IP X"_L1);
+}
+
+static bool isNeverMeasured(const QString &model, const RailRow &row, const RailRules &rules)
+{
+    const QString orig = withoutBlanks(row.orig);
+    const QString key = rules.firstCoreKey == RailRules::Key::Orig ? orig : withoutBlanks(row.malha);
+    if (hidesFirstCore(model) && key == rules.firstCore)
+        return true;
+    return std::ranges::find(rules.never, orig) != rules.never.end() || (rules.skipsCamera && row.ci == "CAM"_L1);
+}
+
+/// The digits after the point, so many of them: a current is printed with more than its reference has.
+static QString withDecimals(const QString &text, qsizetype decimals)
+{
+    const qsizetype point = text.indexOf(u'.');
+    const QString whole = text.left(point < 0 ? text.size() : point);
+    const QString fraction = point < 0 ? QString() : text.mid(point + 1, decimals);
+    return decimals == 0 ? whole : whole + u'.' + fraction.leftJustified(decimals, u'0');
+}
+
+static QString comparable(const LabelledValue &value, const QString &reference)
+{
+    if (value.kind != LabelledValue::Kind::Milliampere)
+        return value.value;
+    const qsizetype point = reference.indexOf(u'.');
+    return withDecimals(QString(value.value).replace(u',', u'.'), point < 0 ? 0 : reference.size() - point - 1);
+}
+
+static QString shownVolts(const QString &value, int decimals)
+{
+    const QString cut = value.left((value.startsWith(u'-') ? 3 : 2) + decimals);
+    const QString digits = QString(cut).remove(u'0').remove(u'.');
+    return digits.isEmpty() || digits == "-"_L1 ? u"0 V"_s : cut + " V"_L1;
+}
+
+static QString shownMilliamperes(const QString &value, int decimals)
+{
+    const qsizetype comma = value.indexOf(u',');
+    const qsizetype kept = decimals == 0 ? comma : comma + 1 + decimals;
+    return (comma < 0 ? value : value.left(kept)) + " mA"_L1;
+}
+
+static QString shown(const RailContext &context, const LabelledValue &value, const RailRules &rules)
+{
+    const QString missing = context.noReading + kNeverMeasured;
+    switch (value.kind) {
+    case LabelledValue::Kind::Volt:
+        return shownVolts(value.value, context.voltDecimals);
+    case LabelledValue::Kind::Milliampere:
+        return shownMilliamperes(value.value, context.milliDecimals);
+    case LabelledValue::Kind::TimedOut:
+        return rules.timeoutText.isEmpty() ? missing : QString(rules.timeoutText);
+    case LabelledValue::Kind::Missing:
+        break;
+    }
+    return missing;
+}
+
+static bool isMeasured(const LabelledValue &value)
+{
+    return value.kind == LabelledValue::Kind::Volt || value.kind == LabelledValue::Kind::Milliampere;
+}
+
+/// A time-out counts as a reading of nothing here: its deviation shows -100 %, so that it never looks good.
+static void compare(EvaluatedRail &rail, const LabelledValue &value)
+{
+    RailRow &row = rail.row;
+    if (row.refV.isEmpty())
+        return;
+    if (row.refV == "0"_L1 || value.kind == LabelledValue::Kind::Missing) {
+        row.porc = u"0 %"_s;
+        return;
+    }
+    const auto deviation = deviationText(comparable(value, row.refV), row.refV);
+    if (!deviation)
+        return;
+    row.porc = *deviation + " %"_L1;
+    if (isMeasured(value))
+        rail.deviation = leadingNumber(*deviation);
+}
+
+bool hasReference(const RailRow &row)
+{
+    return !row.refV.isEmpty() && row.refV != "0"_L1;
+}
+
+EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, const RailRules &rules)
+{
+    EvaluatedRail rail{row};
+    rail.row.leitura.clear();
+    rail.row.porc.clear();
+    if (row.refT.isEmpty())
+        return rail;
+    if (isNeverMeasured(context.model, row, rules)) {
+        rail.row.leitura = kNeverMeasured;
+        return rail;
+    }
+    const QString label = BistLabel(row.refT);
+    rail.indexUnknown = label.isEmpty();
+    const LabelledValue value = valueBehind(context.reply, label);
+    rail.line = value.line;
+    rail.row.leitura = shown(context, value, rules);
+    compare(rail, value);
+    const bool noMeasure = isMeasured(value) && !rail.deviation; // a nominal of zero: nothing to divide by
+    if (hasReference(row) && !noMeasure)
+        rail.verdict = judged(rail.deviation, Rule::tenPercent());
+    return rail;
+}
+
+QList<EvaluatedRail> byDeviation(QList<EvaluatedRail> rails)
+{
+    const auto magnitude = [](const EvaluatedRail &rail) { return rail.deviation ? std::abs(*rail.deviation) : -1.0; };
+    std::ranges::stable_sort(rails, std::ranges::greater(), magnitude);
+    return rails;
+}
+
+static QString shownReference(const RailRow &row)
+{
+    return row.ref.isEmpty() ? row.refV : row.ref;
+}
+
+static Row gridRow(const EvaluatedRail &rail)
+{
+    const RailRow &row = rail.row;
+    return {{{u"Orig"_s, row.orig},
+             {u"Malha"_s, row.malha},
+             {u"Ci"_s, row.ci},
+             {u"Leitura"_s, row.leitura},
+             {u"REF"_s, shownReference(row)},
+             {u"PORC"_s, row.porc},
+             {u"G1"_s, row.g[0]},
+             {u"G2"_s, row.g[1]},
+             {u"G3"_s, row.g[2]}},
+            rail.deviation,
+            hasReference(row) ? std::optional(Rule::tenPercent()) : std::nullopt,
+            rail.verdict,
+            row.source};
+}
+
+static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
+{
+    const RailRow &row = rail.row;
+    return {row.malha,          row.leitura,  row.refV, row.source, rail.deviation,
+            Rule::tenPercent(), rail.verdict, screen,   rail.line};
+}
+
+void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut)
+{
+    for (const EvaluatedRail &rail : rails) {
+        panel.rows.append(gridRow(rail));
+        if (rail.verdict != Verdict::None)
+            panel.judgements.append(judgement(rail, panel.screen));
+        panel.verdict = worst(panel.verdict, rail.verdict);
+    }
+    if (cut && panel.verdict == Verdict::Pass)
+        panel.verdict = Verdict::Incomplete;
+}
