@@ -1,0 +1,43 @@
+#pragma once
+
+#include "language.h"
+#include "result.h"
+
+#include <functional>
+
+/// A question with its choices, in the user's language.
+struct Question
+{
+    enum class Choices
+    {
+        YesNo,
+        YesNoCancel
+    };
+
+    QString title;
+    QString text;
+    Choices choices = Choices::YesNo;
+};
+
+enum class Answer
+{
+    Yes,
+    No,
+    Cancel
+};
+
+/// How the program speaks to a person: real dialogs in the window, lines in the terminal, a script in the tests.
+/// Nothing here waits; answers come by callback.
+class Boxes
+{
+public:
+    virtual ~Boxes() = default;
+
+    /// Shows a message of the catalogue, with what may help. A notice without a key is a box of its own: title and
+    /// text are its arguments.
+    virtual void message(const Trouble &trouble) = 0;
+    virtual void ask(const Question &question, std::function<void(Answer)> answered) = 0;
+};
+
+/// How the program opens an address or a document.
+using Opener = std::function<void(const QString &address)>;

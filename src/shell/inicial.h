@@ -1,0 +1,75 @@
+#pragma once
+
+#include "formtable.h"
+#include "portlist.h"
+#include "session.h"
+#include "theme.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class ConnectionBar;
+class FindingsPanel;
+class ModuleRail;
+class QLabel;
+class QMenu;
+class QProgressBar;
+class QTabWidget;
+class QToolButton;
+class ScreenForm;
+
+/// The frame window: connection bar, rail of screens, the open screens as tabs, and the findings.
+class Inicial : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWidget *parent = nullptr);
+
+    ConnectionBar &connectionBar() const { return *m_connectionBar; }
+
+    /// A numbered button: 1 connects or disconnects, the others open a screen or a dialog; any other does nothing.
+    void Botoes_Click(int index);
+    /// Opens a screen, or raises it when it is open already.
+    void openScreen(const QString &name);
+    /// Starts the reading of an open screen.
+    void readScreen(const QString &name);
+    /// One line at the bottom: what was refused or ignored, and why.
+    void showNotice(const Trouble &trouble);
+    void Traducao_Form_Inicial();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QWidget *content();
+    QWidget *topRow();
+    void fillStatusBar();
+    void connectSession();
+    void connectWindow();
+    void buildMenu();
+    void addForm(const QString &name);
+    void listPorts();
+    void paintStatus();
+    void paintTabs();
+    void paintFindings();
+    void foldFindings();
+    void closeTab(int index);
+    void retheme(ThemeChoice choice);
+    QString text(QStringView key) const;
+
+    Session &m_session;
+    std::function<QList<PortEntry>()> m_ports;
+    ConnectionBar *m_connectionBar;
+    ModuleRail *m_rail;
+    QTabWidget *m_tabs;
+    QLabel *m_emptyHint;
+    FindingsPanel *m_findings;
+    QToolButton *m_findingsButton;
+    QToolButton *m_menuButton;
+    QMenu *m_menu;
+    QLabel *m_notice;
+    QProgressBar *m_progress;
+    bool m_findingsOpened = false;
+};

@@ -1,0 +1,83 @@
+#include "modulerail.h"
+
+#include "catalogue.h"
+#include "icons.h"
+#include "theme.h"
+
+#include <QLabel>
+#include <QShortcut>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+static QString buttonName(const Module &module)
+{
+    return module.botao > 0 ? u"Botoes(%1)"_s.arg(module.botao) : u"bt"_s + module.name;
+}
+
+ModuleRail::ModuleRail(QWidget *parent) : QScrollArea(parent)
+{
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(Spacing::control, Spacing::control, Spacing::control, Spacing::control);
+    layout->setSpacing(2);
+    for (const Module &module : modules()) {
+        const int group = static_cast<int>(module.group);
+        if (!m_headings.contains(group)) {
+            m_headings[group] = new QLabel;
+            m_headings[group]->setFont(textFont(TextSize::Small));
+            m_headings[group]->setContentsMargins(Spacing::unit, group == 0 ? 0 : Spacing::control, 0, 0);
+            layout->addWidget(m_headings[group]);
+        }
+        layout->addWidget(addButton(module));
+    }
+    layout->addStretch();
+    setWidget(content);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QToolButton *ModuleRail::addButton(const Module &module)
+{
+    auto *button = new QToolButton;
+    button->setObjectName(buttonName(module));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    button->setCheckable(true);
+    button->setAutoRaise(true);
+    const QString name = module.name;
+    connect(button, &QToolButton::clicked, this, [this, name] { emit screenPressed(name); });
+    auto *shortcut = new QShortcut(QKeySequence(QString(module.shortcut)), this);
+    connect(shortcut, &QShortcut::activated, this, [this, name] { emit screenPressed(name); });
+    m_buttons.insert(name, button);
+    return button;
+}
+
+/// The screen of the port controller is called by the chip that the model has.
+static QStringView captionKey(const Module &module, const QString &model)
+{
+    const bool newest = model.startsWith("IP X"_L1) || model.startsWith("IP 8"_L1);
+    return module.name == "Tristar"_L1 && newest ? QStringView(u"Hydra") : module.caption;
+}
+
+void ModuleRail::Traducao_Form(Language language, const QString &model)
+{
+    for (const Module &module : modules()) {
+        QToolButton *button = m_buttons.value(module.name);
+        const QString text = caption(captionKey(module, model), language);
+        button->setText(text);
+        button->setIcon(lineIcon(QString(module.icon)));
+        button->setToolTip(text + u"  ("_s + module.shortcut + u')');
+        button->setAccessibleName(text);
+        m_headings.value(static_cast<int>(module.group))->setText(caption(groupCaption(module.group), language));
+    }
+    setFixedWidth(widget()->sizeHint().width() + Spacing::group);
+}
+
+void ModuleRail::mark(const QString &screen)
+{
+    for (const auto &[name, button] : m_buttons.asKeyValueRange())
+        button->setChecked(name == screen);
+}

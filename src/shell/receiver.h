@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+/// A finished reply on its way to the screen that asked.
+struct Delivery
+{
+    QString command;
+    QString reply;    ///< as the console shows it; empty when not one byte came
+    bool cut = false; ///< the phone's prompt never came: it must not be judged good
+};
+
+/// Why a waiting screen gets its reply no more.
+enum class Release
+{
+    LinkLost,
+    Disconnected,
+    ModelUnknown
+};
+
+/// A screen as the session sees it: it takes the replies of its code.
+class Receiver
+{
+public:
+    virtual ~Receiver() = default;
+
+    virtual void take(const Delivery &delivery) = 0;
+    /// The model that the screen asked for is known now: the reading goes on.
+    virtual void resume() = 0;
+    /// The reply will not come. `partial` holds what had come, marked cut.
+    virtual void release(Release why, const Delivery &partial) = 0;
+};
