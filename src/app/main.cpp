@@ -1,0 +1,43 @@
+#include "home.h"
+#include "icons.h"
+#include "startup.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QSplashScreen>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+static constexpr int kStoreMissing = 4;
+
+static void showSplash(QSplashScreen &splash)
+{
+    splash.setObjectName(u"xScreen"_s);
+    splash.show();
+    splash.showMessage(u"Tavimo Prelt 2.22"_s, Qt::AlignBottom | Qt::AlignHCenter, currentTheme().text);
+}
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"tavimo-prelt"_s);
+    QApplication::setApplicationVersion(u"2.22"_s);
+    const StartOptions options = startOptions(app);
+    applyTheme(app, options.theme);
+    QSplashScreen splash(programIcon().pixmap(192));
+    showSplash(splash);
+
+    const QString store = configStore(homeFolder(options.home));
+    if (!QFileInfo::exists(store)) {
+        splash.close();
+        showStoreMissing(store);
+        QApplication::exec();
+        return kStoreMissing;
+    }
+    Startup startup(options);
+    startup.begin();
+    splash.close();
+    return QApplication::exec();
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "theme.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+/// What the window is told at its start.
+struct StartOptions
+{
+    QString home;
+    QString port;
+    bool connects = false;
+    QString screen; ///< a form's name; empty: none
+    bool reads = false;
+    ThemeChoice theme = ThemeChoice::Desktop;
+};
+
+/// The options of the command line. Ends the program after help, or after a complaint with code 2.
+StartOptions startOptions(const QCoreApplication &application);

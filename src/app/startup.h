@@ -1,0 +1,31 @@
+#pragma once
+
+#include "inicial.h"
+#include "portresolver.h"
+#include "serialport.h"
+#include "startoptions.h"
+#include "storequeue.h"
+#include "windowboxes.h"
+
+/// The running program: everything the window stands on, put together in the order of the start.
+class Startup
+{
+public:
+    explicit Startup(const StartOptions &options);
+
+    void begin();
+
+private:
+    void openAddress(const QString &address) const;
+
+    StartOptions m_options;
+    SerialPort m_port;
+    PortResolver m_resolver;
+    StoreQueue m_store;
+    WindowBoxes m_boxes;
+    Session m_session;
+    Inicial m_window;
+};
+
+/// Says in three languages that the reference store is missing.
+void showStoreMissing(const QString &path);

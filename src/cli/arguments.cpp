@@ -1,0 +1,150 @@
+#include "arguments.h"
+
+#include "models.h"
+#include "screentable.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Commands = std::vector<std::pair<CLI::App *, Arguments::Command>>;
+
+CLI::Option *addText(CLI::App &app, const char *name, QString &target, const char *help)
+{
+    return app.add_option_function<std::string>(
+        name, [&target](const std::string &text) { target = QString::fromStdString(text); }, help);
+}
+
+std::vector<std::string> modelChoices()
+{
+    std::vector<std::string> choices;
+    for (const QString &model : modelNames())
+        choices.push_back(model.toStdString());
+    return choices;
+}
+
+void addCommon(CLI::App &app, CommonOptions &common)
+{
+    addText(app, "--home", common.home, "folder of the store");
+    app.add_option_function<std::string>(
+           "--lang",
+           [&common](const std::string &text) {
+               common.language = text == "pt"   ? Language::Portuguese
+                                 : text == "en" ? Language::English
+                                                : Language::Spanish;
+           },
+           "language of the output: pt, en or es (else as the store says)")
+        ->check(CLI::IsMember({"pt", "en", "es"}));
+    app.add_flag("--json", common.json, "print one JSON object");
+}
+
+void addModel(CLI::App &app, CommonOptions &common, const char *help)
+{
+    addText(app, "--model", common.model, help)->check(CLI::IsMember(modelChoices()));
+}
+
+void addPort(CLI::App &app, CommonOptions &common)
+{
+    addText(app, "--port", common.port, "COMn, n, a device path, or sim:MODEL[,fault...]")->required();
+    app.add_option_function<int>(
+           "--timeout", [&common](int seconds) { common.timeout = std::chrono::seconds(seconds); },
+           "give up after so many seconds")
+        ->check(CLI::PositiveNumber);
+}
+
+void addScreenOptions(CLI::App &app, const ScreenCommand &screen, ScreenOptions &options)
+{
+    if (screen.hasKind)
+        app.add_option("--kind", options.kind, "1 LDOs, 2 bucks")->check(CLI::IsMember({1, 2}))->capture_default_str();
+    if (!screen.hasDecimals)
+        return;
+    addText(app, "--volts", options.volts, "decimal places of volts: 1, 2 or 3")->check(CLI::IsMember({"1", "2", "3"}));
+    addText(app, "--amps", options.amps, "decimal places of milliamperes: 0 to 3")
+        ->check(CLI::IsMember({"0", "1", "2", "3"}));
+}
+
+/// `run` and `judge` have one subcommand per screen.
+void addScreens(CLI::App &parent, Arguments &arguments, const std::function<void(CLI::App &)> &addOwn)
+{
+    parent.require_subcommand(1);
+    for (const ScreenCommand &screen : screenCommands()) {
+        CLI::App *app = parent.add_subcommand(screen.command.data(), screen.help.data());
+        addCommon(*app, arguments.common);
+        addScreenOptions(*app, screen, arguments.screen);
+        addOwn(*app);
+        app->final_callback([&arguments, name = QString(screen.command)] { arguments.screen.screen = name; });
+    }
+}
+
+void addStore(CLI::App &app, Arguments &arguments, Commands &commands)
+{
+    CLI::App *store = app.add_subcommand("store", "the reference store");
+    store->require_subcommand(1);
+    CLI::App *init = store->add_subcommand("init", "make a store from the seed tables; never touches one that exists");
+    addCommon(*init, arguments.common);
+    commands.emplace_back(init, Arguments::Command::StoreInit);
+}
+
+Commands addCommands(CLI::App &app, Arguments &arguments)
+{
+    CLI::App *ports = app.add_subcommand("ports", "list the serial ports");
+    addCommon(*ports, arguments.common);
+
+    CLI::App *detect = app.add_subcommand("detect", "tell the model of the phone");
+    CLI::App *send = app.add_subcommand("send", "send one command line and print the reply");
+    for (CLI::App *live : {detect, send}) {
+        addCommon(*live, arguments.common);
+        addPort(*live, arguments.common);
+    }
+    addText(*send, "command", arguments.text, "the command line")->required();
+
+    CLI::App *run = app.add_subcommand("run", "ask the phone, judge, print");
+    addScreens(*run, arguments, [&arguments](CLI::App &screen) {
+        addPort(screen, arguments.common);
+        addModel(screen, arguments.common, "model of the phone (else detected)");
+    });
+    CLI::App *judge = app.add_subcommand("judge", "judge a saved reply; no phone needed");
+    addScreens(*judge, arguments, [&arguments](CLI::App &screen) {
+        addModel(screen, arguments.common, "model of the phone");
+        screen.get_option("--model")->required();
+        addText(screen, "--reply", arguments.screen.replyFile,
+                "file with the bytes as the phone sent them; - reads standard input")
+            ->required();
+    });
+
+    CLI::App *sim = app.add_subcommand("sim", "run a simulated phone and print its device path");
+    addText(*sim, "phone", arguments.text, "MODEL[,fault...], for example \"IP 7,ldo2=1200\"")->required();
+
+    Commands commands{{ports, Arguments::Command::Ports}, {detect, Arguments::Command::Detect},
+                      {send, Arguments::Command::Send},   {run, Arguments::Command::Run},
+                      {judge, Arguments::Command::Judge}, {sim, Arguments::Command::Sim}};
+    addStore(app, arguments, commands);
+    return commands;
+}
+
+} // namespace
+
+std::variant<Arguments, ExitCode> parseArguments(int argc, char **argv)
+{
+    Arguments arguments;
+    CLI::App app("Reads and judges phone logic boards over a serial Box.", "prelt");
+    app.set_version_flag("--version", "2.22");
+    app.require_subcommand(1);
+    app.footer("Exit codes: 0 good, 1 fault found, 2 wrong usage, 3 the link failed, 4 the store failed, "
+               "5 incomplete.");
+    const Commands commands = addCommands(app, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return app.exit(error) == 0 ? ExitCode::Good : ExitCode::Usage;
+    }
+    for (const auto &[subcommand, command] : commands)
+        if (subcommand->parsed())
+            arguments.command = command;
+    return arguments;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "options.h"
+#include "portresolver.h"
+#include "session.h"
+#include "terminalboxes.h"
+
+#include <memory>
+
+/// What a command works with: a port, the store read-only, and a session that keeps nothing.
+class Bench
+{
+public:
+    /// A bench on a real or simulated port.
+    explicit Bench(const CommonOptions &options);
+    /// A bench on the bytes of a saved reply.
+    Bench(const CommonOptions &options, const QByteArray &reply);
+
+    Session &session() { return *m_session; }
+    TerminalBoxes &boxes() { return m_boxes; }
+
+private:
+    void start(const CommonOptions &options, Intervals intervals);
+
+    StoreQueue m_store;
+    TerminalBoxes m_boxes{Language::Portuguese};
+    PortResolver m_resolver;
+    std::unique_ptr<Port> m_port;
+    std::unique_ptr<Session> m_session;
+};

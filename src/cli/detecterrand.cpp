@@ -1,0 +1,22 @@
+#include "detecterrand.h"
+
+#include "json.h"
+#include "terminal.h"
+
+using namespace Qt::StringLiterals;
+
+void DetectErrand::start()
+{
+    Errand::start();
+    connectToPhone();
+}
+
+void DetectErrand::connectedToPhone()
+{
+    const bool known = session().isModelKnown();
+    if (options().json)
+        printOut(document({{u"model"_s, known ? session().model() : QString()}, {u"record"_s, session().lbModelo()}}));
+    else if (known)
+        printOut(session().model() + u'\n');
+    finish(known ? ExitCode::Good : ExitCode::Incomplete);
+}

@@ -1,0 +1,66 @@
+#include "errand.h"
+
+#include "terminal.h"
+
+using namespace Qt::StringLiterals;
+
+Errand::Errand(CommonOptions options) : m_options(std::move(options)), m_bench(m_options)
+{
+    watchSession();
+}
+
+Errand::Errand(CommonOptions options, const QByteArray &reply)
+    : m_options(std::move(options)), m_bench(m_options, reply)
+{
+    watchSession();
+}
+
+void Errand::watchSession()
+{
+    connect(
+        &session(), &Session::connectionSettled, this,
+        [this] {
+            if (!m_finished)
+                connectedToPhone();
+        },
+        Qt::QueuedConnection);
+    connect(&session(), &Session::connectFailed, this, [this] { finish(ExitCode::Link); });
+    connect(&session(), &Session::linkLost, this, [this] { fail({{u"LINK_LOST"_s}}, ExitCode::Link); });
+    connect(&session(), &Session::storeFailed, this,
+            [this](const Trouble &trouble) { fail(trouble, ExitCode::Store); });
+    connect(&session(), &Session::refused, this, [this](const Notice &why) { printError(oneLine({why}, language())); });
+    connect(&m_timeout, &QTimer::timeout, this, [this] { fail({{u"NO_ANSWER"_s}}, ExitCode::Link); });
+    m_timeout.setSingleShot(true);
+}
+
+void Errand::start()
+{
+    session().load();
+    if (m_finished)
+        return;
+    if (m_options.language)
+        session().chooseLanguage(*m_options.language);
+    if (m_options.timeout)
+        m_timeout.start(*m_options.timeout);
+}
+
+void Errand::connectToPhone()
+{
+    if (!m_finished)
+        session().connectOrDisconnect(m_options.port);
+}
+
+void Errand::finish(ExitCode code)
+{
+    if (std::exchange(m_finished, true))
+        return;
+    emit finished(code);
+}
+
+void Errand::fail(const Trouble &trouble, ExitCode code)
+{
+    if (m_finished)
+        return;
+    printError(oneLine(trouble, language()));
+    finish(code);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "bench.h"
+#include "exitcode.h"
+
+#include <QObject>
+#include <QTimer>
+
+/// A command that needs the event loop: it starts a bench, waits for its events and ends with an exit code.
+class Errand : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Errand(CommonOptions options);
+    Errand(CommonOptions options, const QByteArray &reply);
+
+    virtual void start();
+
+signals:
+    void finished(ExitCode code);
+
+protected:
+    Session &session() { return m_bench.session(); }
+    const CommonOptions &options() const { return m_options; }
+    Language language() { return session().language(); }
+    const QList<Notice> &messages() { return m_bench.boxes().shown(); }
+
+    /// The phone is connected; its model is known if it could be told.
+    virtual void connectedToPhone() = 0;
+    void connectToPhone();
+    void finish(ExitCode code);
+    void fail(const Trouble &trouble, ExitCode code);
+
+private:
+    void watchSession();
+
+    CommonOptions m_options;
+    Bench m_bench;
+    QTimer m_timeout;
+    bool m_finished = false;
+};

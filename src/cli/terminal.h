@@ -1,0 +1,22 @@
+#pragma once
+
+#include "catalogue.h"
+#include "panel.h"
+#include "result.h"
+
+#include <QString>
+
+/// The text of a message on one line: what, which, what to do.
+QString oneLine(const Trouble &trouble, Language language);
+
+void printOut(const QString &text);
+void printError(const QString &text);
+
+/// True when colours may be used on standard output.
+bool colourWanted();
+
+/// Columns of text, padded to the widest cell; the last one is not.
+QString aligned(const QList<QStringList> &rows, const QList<Qt::Alignment> &alignments);
+
+/// A reading for people: title, grid, lines, verdict.
+QString readable(const Panel &panel, Language language, bool colour);

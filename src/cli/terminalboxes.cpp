@@ -1,0 +1,15 @@
+#include "terminalboxes.h"
+
+#include "terminal.h"
+
+void TerminalBoxes::message(const Trouble &trouble)
+{
+    m_shown.append(trouble.what);
+    printError(oneLine(trouble, m_language));
+}
+
+void TerminalBoxes::ask(const Question &question, std::function<void(Answer)> answered)
+{
+    m_shown.append({{}, {question.title, question.text}});
+    answered(Answer::Yes);
+}

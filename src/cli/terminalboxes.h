@@ -1,0 +1,20 @@
+#pragma once
+
+#include "boxes.h"
+
+/// Messages as lines on standard error; questions answer themselves with Yes. Both are kept for the JSON.
+class TerminalBoxes : public Boxes
+{
+public:
+    explicit TerminalBoxes(Language language) : m_language(language) {}
+
+    void setLanguage(Language language) { m_language = language; }
+    void message(const Trouble &trouble) override;
+    void ask(const Question &question, std::function<void(Answer)> answered) override;
+
+    const QList<Notice> &shown() const { return m_shown; }
+
+private:
+    Language m_language;
+    QList<Notice> m_shown;
+};

@@ -1,0 +1,12 @@
+#include "buckldoscreen.h"
+
+#include "buckldoreading.h"
+
+using namespace Qt::StringLiterals;
+
+BuckLdoScreen::BuckLdoScreen(Session &session, QObject *parent) : RailScreen(session, buckLdoTraits(), parent) {}
+
+void BuckLdoScreen::Botao3_Click()
+{
+    emit screenRequested(u"PMU"_s);
+}
