@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "connectionbar.h"
 #include "home.h"
+#include "settings.h"
 
 #include <QDesktopServices>
 #include <QMessageBox>
@@ -26,9 +27,19 @@ Startup::Startup(const StartOptions &options)
     m_boxes.setParent(&m_window);
 }
 
+void Startup::probeInternet()
+{
+    QObject::connect(&m_reachability, &Reachability::unreachable, &m_window,
+                     [this] { m_boxes.message({{u"MSG_INTERNET_GERAL"_s}}); });
+    m_session.withStore<QString>(
+        Store::Access::Read, [](Store &store) { return setting(store, u"probe-address"_s); }, &m_window,
+        [this](const QString &address) { m_reachability.probe(address); });
+}
+
 void Startup::begin()
 {
     m_session.load();
+    probeInternet();
     if (!m_options.port.isEmpty())
         m_window.connectionBar().setPort(m_options.port);
     m_window.show();

@@ -2,6 +2,7 @@
 
 #include "inicial.h"
 #include "portresolver.h"
+#include "reachability.h"
 #include "serialport.h"
 #include "startoptions.h"
 #include "storequeue.h"
@@ -16,7 +17,7 @@ public:
     void begin();
 
 private:
-    void openAddress(const QString &address) const;
+    void probeInternet();
 
     StartOptions m_options;
     SerialPort m_port;
@@ -25,6 +26,7 @@ private:
     WindowBoxes m_boxes;
     Session m_session;
     Inicial m_window;
+    Reachability m_reachability;
 };
 
 /// Says in three languages that the reference store is missing.
