@@ -6,10 +6,11 @@
 #include <QFileInfo>
 #include <QSplashScreen>
 
-#include <optional>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
+static constexpr int kNoDisplay = 2;
 static constexpr int kStoreMissing = 4;
 
 static void showSplash(QSplashScreen &splash)
@@ -19,8 +20,29 @@ static void showSplash(QSplashScreen &splash)
     splash.showMessage(u"Tavimo Prelt 2.22"_s, Qt::AlignBottom | Qt::AlignHCenter, currentTheme().text);
 }
 
+/// The toolkit would end the program with a crash.
+static bool hasDisplay()
+{
+#ifdef Q_OS_LINUX
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#else
+    return true;
+#endif
+}
+
+static int endWithoutDisplay()
+{
+    std::fputs("tavimo-prelt: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); "
+               "prelt does the same in the terminal\n",
+               stderr);
+    return kNoDisplay;
+}
+
 int main(int argc, char **argv)
 {
+    if (!hasDisplay())
+        return endWithoutDisplay();
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"tavimo-prelt"_s);
     QApplication::setApplicationVersion(u"2.22"_s);
