@@ -2,14 +2,12 @@
 
 #include "queries.h"
 #include "schema.h"
+#include "storefile.h"
 #include "storetrouble.h"
 
-#include <QFileInfo>
 #include <QSqlError>
-#include <QUrl>
 
 #include <atomic>
-#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,31 +25,9 @@ QString textOf(const Query &query)
     return QString::fromUtf8(query.sql.data(), static_cast<qsizetype>(query.sql.size()));
 }
 
-// Opening by address is the one way to say that a missing file must not be made. Three slashes before a drive letter
-// and before a network share alike.
-QString addressOf(const QString &path)
-{
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    const QString rooted = absolute.startsWith(u'/') ? absolute : u'/' + absolute;
-    return u"file://"_s + QString::fromLatin1(QUrl::toPercentEncoding(rooted, "/:")) + u"?mode=rw"_s;
-}
-
-// What the engine would only call "unable to open database file".
-std::optional<Trouble> troubleWithFile(const QString &path)
-{
-    const QFileInfo file(path);
-    if (!file.exists())
-        return storeTrouble(u"STORE_MISSING"_s, path, u"no such file"_s);
-    if (!file.isFile())
-        return storeTrouble(u"STORE_FAILED"_s, path, file.isDir() ? u"is a folder"_s : u"is not a file"_s);
-    if (!file.isReadable())
-        return storeTrouble(u"STORE_FAILED"_s, path, u"permission denied"_s);
-    return {};
-}
-
 QVariant neverNull(const QVariant &value)
 {
-    return value.isNull() ? QVariant(u""_s) : value;
+    return value.toString().isNull() ? QVariant(u""_s) : value;
 }
 
 } // namespace
@@ -80,7 +56,7 @@ Result<Store> Store::connected(const QString &path, std::chrono::milliseconds pa
 {
     Store store(newConnectionName(), path);
     QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, store.m_connection);
-    database.setDatabaseName(addressOf(path));
+    database.setDatabaseName(storeAddress(path));
     database.setConnectOptions(u"QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1"_s.arg(patience.count()));
     if (!database.open())
         return storeTrouble(database.lastError(), path);
@@ -109,7 +85,7 @@ Result<Store> Store::makeTables(const QString &emptyFile)
     Result<Store> store = connected(emptyFile, std::chrono::milliseconds(0));
     if (!store)
         return store;
-    for (const QString &statement : schemaStatements())
+    for (const QString &statement : QStringList(u"BEGIN"_s) + schemaStatements() + QStringList(u"COMMIT"_s))
         if (const Result<Done> made = store->execute(statement); !made)
             return made.trouble();
     return store;
@@ -126,13 +102,14 @@ Result<Done> Store::checkTables() const
     return Done{};
 }
 
-// Writing is tried at once, so that who waits for a lock, or meets a write protection, is told before any work is done.
-// A reader opens the file for writing too, for what an interrupted writer left must be rolled back first.
+// Writing is tried at once, by a statement that changes no row, so that who waits for a lock, or meets a write
+// protection, is told before any work is done. A reader opens the file for writing too, for what an interrupted writer
+// left must be rolled back first.
 Result<Done> Store::prepareFor(Access access) const
 {
     static const QStringList kReading = {u"PRAGMA query_only=ON"_s};
     static const QStringList kWriting = {u"PRAGMA journal_mode=DELETE"_s, u"PRAGMA synchronous=FULL"_s,
-                                         u"BEGIN IMMEDIATE"_s, u"ROLLBACK"_s};
+                                         u"Update Master set G1 = G1 Where 0"_s};
     for (const QString &statement : access == Access::Read ? kReading : kWriting)
         if (const Result<Done> done = execute(statement); !done)
             return done;
@@ -178,28 +155,4 @@ Result<Done> Store::rerun(QSqlQuery &query, const QVariantMap &values) const
 Trouble Store::trouble(const QSqlQuery &query) const
 {
     return storeTrouble(query.lastError(), m_path);
-}
-
-Result<Transaction> Transaction::begin(Store &store)
-{
-    // Takes the write lock now: a lock met halfway could only be answered by starting over.
-    if (const Result<Done> begun = store.execute(u"BEGIN IMMEDIATE"_s); !begun)
-        return begun.trouble();
-    return Transaction(store);
-}
-
-Transaction::Transaction(Transaction &&other) noexcept : m_store(std::exchange(other.m_store, nullptr)) {}
-
-Transaction::~Transaction()
-{
-    if (m_store)
-        (void)m_store->execute(u"ROLLBACK"_s);
-}
-
-Result<Done> Transaction::commit()
-{
-    const Result<Done> committed = m_store->execute(u"COMMIT"_s);
-    if (committed)
-        m_store = nullptr;
-    return committed;
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "result.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What keeps a path from being a store at all: things that the engine would only call "unable to open".
+std::optional<Trouble> troubleWithFile(const QString &path);
+
+/// A path as the engine's address: the one way to say that a missing file must not be made.
+QString storeAddress(const QString &path);
