@@ -161,8 +161,7 @@ void Session::openPort(const PortAddress &address)
 void Session::disconnectNow()
 {
     m_parts.port.close();
-    showDisconnected();
-    dropPending(Release::Disconnected);
+    leaveLink(Release::Disconnected);
 }
 
 void Session::showDisconnected()
@@ -212,6 +211,10 @@ void Session::applySpeed(const QString &chosen)
 
 void Session::detach(const Receiver *receiver)
 {
+    if (m_receivers.value(m_code) == receiver) // another that opens under this code must not get the late reply
+        m_code = kMainWindowCode;
+    if (m_receivers.value(m_origin) == receiver)
+        m_origin.clear();
     m_receivers.removeIf([receiver](const auto &entry) { return entry.value() == receiver; });
 }
 
@@ -230,7 +233,7 @@ bool Session::request(const QString &code, const QString &command)
     m_code = code;
     m_txtComandos = command;
     EnviaComando();
-    return true;
+    return isInFlight();
 }
 
 void Session::EnviaComando()
@@ -308,13 +311,15 @@ void Session::BuscaDadosGravados()
         receiver->take(finished);
 }
 
-void Session::dropPending(Release why)
+void Session::leaveLink(Release why)
 {
     const bool inFlight = isInFlight();
-    const Delivery partial = inFlight ? delivery() : Delivery{{}, {}, true};
+    Delivery partial = inFlight ? delivery() : Delivery{};
+    partial.cut = true; // even with a prompt in it: the line died before the reply was done
     const QString code = std::exchange(m_code, kMainWindowCode);
     m_timer1.stop();
     m_timer2.stop();
+    showDisconnected();
     Receiver *waiting = takeOrigin();
     if (waiting)
         return waiting->release(why, {{}, {}, true});
@@ -332,8 +337,7 @@ void Session::lose()
     }
     if (isInFlight())
         AdicionaDadosConsole(QString::fromLatin1(m_parts.port.read()));
-    showDisconnected();
-    dropPending(Release::LinkLost);
+    leaveLink(Release::LinkLost);
     m_timerFecha.start();
     emit linkLost();
 }

@@ -66,8 +66,8 @@ public:
 
     /// "0" disconnected, "2" connecting, "3" command in flight, "1" connected and idle.
     QString Status() const { return QString(m_status); }
-    /// The handshake was accepted and no command is in flight: a screen may send.
-    bool isReady() const { return m_accepted && m_status == u'1'; }
+    /// The handshake was accepted, no command is in flight and no model is being asked for: a screen may send.
+    bool isReady() const { return m_accepted && m_status == u'1' && !isAskingModel(); }
     bool isConnected() const { return m_accepted && m_status != u'0'; }
     Lamp lamp() const;
     /// The texts of the status label, the connect button and the window's title, in the user's language.
@@ -161,13 +161,14 @@ private:
     void showDisconnected();
     void enter(QChar status, const QString &st1);
     bool isInFlight() const;
+    bool isAskingModel() const;
     void applySpeed(const QString &chosen);
     bool maySend();
     void startConsole();
     void advance(const Gathering &next);
     EndOfReply endOfReply() const;
     Delivery delivery() const;
-    void dropPending(Release why);
+    void leaveLink(Release why);
     void lose();
 
     void acceptHandshake();
@@ -180,6 +181,7 @@ private:
     void giveUpModel(const QString &shown);
     void endModelWatch();
     Receiver *takeOrigin();
+    void resumeOrigin();
     void setModel(const QString &model, bool known);
     void clearStoredReadings();
     void remember(const QString &model);

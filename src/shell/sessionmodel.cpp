@@ -79,7 +79,12 @@ bool Session::requestModel(const QString &code)
     m_modelTicks = 0;
     m_mayRepeatQuery = false;
     sendModelQuery(m_timerVersao);
-    return true;
+    return isInFlight();
+}
+
+bool Session::isAskingModel() const
+{
+    return m_timerVersao.isActive() || m_timerVerificaVersao.isActive();
 }
 
 void Session::TimerVersao_Timer()
@@ -94,14 +99,19 @@ void Session::TimerVerificaVersao_Timer()
 
 void Session::watchModelReply()
 {
-    if (m_status != u'1' || takeModelReply(modelReply(m_txtConsole)))
+    if (m_status != u'1')
+        return;
+    if (m_modelKnown && !m_origin.isEmpty()) // picked by hand while the query was on its way
+        return resumeOrigin();
+    ++m_modelTicks;
+    if (takeModelReply(modelReply(m_txtConsole)))
         return;
     if (m_txtConsole.contains("Not Found"_L1))
         return giveUpModel({});
     const bool repeat = m_mayRepeatQuery && !m_modelKnown && !m_txtConsole.contains("Command"_L1);
     if (std::exchange(m_mayRepeatQuery, false) && repeat)
         return sendModelQuery(m_timerVerificaVersao);
-    if (++m_modelTicks < kModelTicks)
+    if (m_modelTicks < kModelTicks)
         return;
     if (!m_origin.isEmpty())
         return giveUpModel({});
@@ -139,17 +149,22 @@ Receiver *Session::takeOrigin()
     return m_receivers.value(std::exchange(m_origin, {}));
 }
 
+void Session::resumeOrigin()
+{
+    if (Receiver *waiting = takeOrigin())
+        waiting->resume();
+}
+
 void Session::identify(const QString &model)
 {
     m_txtComandos.clear();
     m_txtConsole.clear();
     m_lbModelo = model;
-    Receiver *waiting = takeOrigin();
+    endModelWatch();
     setModel(model, true);
     remember(model);
     emit connectionSettled();
-    if (waiting)
-        waiting->resume();
+    resumeOrigin();
 }
 
 void Session::giveUpModel(const QString &shown)
@@ -169,11 +184,10 @@ void Session::chooseModel(const QString &model)
 {
     if (model.isEmpty() || (m_modelKnown && model == m_model))
         return;
-    Receiver *waiting = isInFlight() ? nullptr : takeOrigin();
     setModel(model, true);
     remember(model);
-    if (waiting)
-        waiting->resume();
+    if (!isInFlight())
+        resumeOrigin();
 }
 
 void Session::setModel(const QString &model, bool known)
