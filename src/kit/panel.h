@@ -66,6 +66,7 @@ struct Row
     std::optional<Rule> rule = {};
     Verdict verdict = Verdict::None;
     QString source = {};
+    QString confidence = {}; ///< in the source: "high", "medium", "low", or empty when not known
 
     QString cell(QStringView column) const;
 

@@ -9,7 +9,6 @@ class BuckLdoScreen;
 class PanelGrid;
 class QComboBox;
 class QHBoxLayout;
-class QGroupBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -39,6 +38,7 @@ private:
     QWidget *kinds();
     QWidget *recordings();
     void connectControls();
+    void paintHint();
 
     BuckLdoScreen &m_rails;
     PanelModel m_rows;
@@ -48,8 +48,9 @@ private:
     std::array<QRadioButton *, 3> m_orders;
     std::array<QToolButton *, 3> m_btGravar;
     std::array<QToolButton *, 3> m_btExcluir;
-    QGroupBox *m_frame1;
-    QGroupBox *m_frameGravacao;
+    QLabel *m_hint;
+    QLabel *m_lbClassificacao;
+    QLabel *m_lbGravacao;
     QLabel *m_lbInfoDecimais;
     QComboBox *m_comboDecimais;
     QComboBox *m_comboDecimaisAmp;

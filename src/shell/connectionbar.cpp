@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QToolButton>
@@ -20,6 +21,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kDescriptionRole = Qt::UserRole + 1;
+// Wide enough for the longest word of each, so that a new state moves nothing.
+constexpr int kStatusWidth = 126;
+constexpr int kConnectWidth = 132;
+constexpr int kDeviceWidth = 200;
+constexpr int kPortWidth = 320;
 
 /// The list shows what is behind a port number; the field keeps the bare number.
 class PortDelegate : public QStyledItemDelegate
@@ -86,14 +92,23 @@ ConnectionBar::ConnectionBar(Session &session, QWidget *parent)
     m_cbPortas->setEditable(true);
     m_cbPortas->setInsertPolicy(QComboBox::NoInsert);
     m_cbPortas->setItemDelegate(new PortDelegate(m_cbPortas));
-    m_cbPortas->setMinimumContentsLength(12);
+    m_cbPortas->setMinimumContentsLength(10);
+    m_cbPortas->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_cbPortas->setMaximumWidth(kPortWidth);
     m_comboBox->addItems({u"1"_s, u"2"_s});
     for (QComboBox *models : {m_comboAparelhos, m_comboAparelhosX}) {
         models->addItems(modelNames());
         models->setPlaceholderText(u"—"_s);
     }
     m_connect->setProperty("primary", true);
-    m_connect->setMinimumHeight(Spacing::target + Spacing::unit);
+    m_connect->setMinimumWidth(kConnectWidth);
+    for (QWidget *control : {static_cast<QWidget *>(m_cbPortas), static_cast<QWidget *>(m_comboBox),
+                             static_cast<QWidget *>(m_comboAparelhos), static_cast<QWidget *>(m_comboAparelhosX)})
+        control->setMinimumHeight(Spacing::target);
+    m_imgStatus->setMinimumWidth(kStatusWidth);
+    m_lbBox->setMaximumWidth(kDeviceWidth);
+    m_lbBox->setFont(textFont(TextSize::Small));
+    m_lbSimulado->setFont(textFont(TextSize::Small));
     m_lbModelo->setFont(textFont(TextSize::Large));
     m_lbTristarTigris->setFont(textFont(TextSize::Small));
     layOut();
@@ -124,6 +139,11 @@ void ConnectionBar::connectControls()
     connect(m_imgAtualizar, &QToolButton::clicked, this, &ConnectionBar::portsWanted);
     connect(m_connect, &QPushButton::clicked, this, [this] { emit connectPressed(port()); });
     connect(m_cbPortas->lineEdit(), &QLineEdit::returnPressed, m_connect, &QPushButton::click);
+    connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, m_connect, &QPushButton::click);
+    connect(new QShortcut(Qt::Key_F4, this), &QShortcut::activated, m_cbPortas, [this] {
+        m_cbPortas->setFocus(Qt::ShortcutFocusReason);
+        m_cbPortas->lineEdit()->selectAll();
+    });
     connect(m_cbPortas, &QComboBox::currentTextChanged, this, &ConnectionBar::paintDevice);
     connect(m_comboBox, &QComboBox::textActivated, &m_session, &Session::chooseSpeed);
     for (QComboBox *models : {m_comboAparelhos, m_comboAparelhosX})
@@ -141,6 +161,7 @@ QString ConnectionBar::port() const
 void ConnectionBar::setPort(const QString &port)
 {
     m_cbPortas->setCurrentText(port);
+    m_cbPortas->lineEdit()->setCursorPosition(0);
 }
 
 void ConnectionBar::listPorts(const QList<PortEntry> &ports)
@@ -167,13 +188,18 @@ void ConnectionBar::paintDevice()
     const QString none = m_cbPortas->count() == 0 && port().isEmpty()
                              ? caption(u"Nenhuma porta encontrada", m_session.language())
                              : QString();
-    m_lbBox->setText(place < 0 ? none : m_cbPortas->itemData(place, kDescriptionRole).toString());
+    const QString shown = place < 0 ? none : m_cbPortas->itemData(place, kDescriptionRole).toString();
+    m_lbBox->setText(m_lbBox->fontMetrics().elidedText(shown, Qt::ElideRight, kDeviceWidth));
+    m_lbBox->setToolTip(shown);
+    m_lbBox->setVisible(!shown.isEmpty());
 }
 
 void ConnectionBar::paintStatus()
 {
     m_imgStatus->setLight(lightOf(m_session.lamp()), m_session.St1());
     m_connect->setText(m_session.connectCaption());
+    m_connect->setToolTip(m_session.connectCaption() + "  (F2)"_L1);
+    m_connect->setAccessibleName(m_session.connectCaption());
     const bool idle = m_session.lamp() == Lamp::Branco;
     m_cbPortas->setEnabled(idle);
     m_imgAtualizar->setEnabled(idle);
@@ -197,7 +223,7 @@ void ConnectionBar::Traducao_Form()
     const auto text = [this](QStringView key) { return caption(key, m_session.language()); };
     m_lbFramePorta->setText(text(u"Porta COM"));
     m_cbPortas->setAccessibleName(text(u"Porta COM"));
-    m_cbPortas->setToolTip(text(u"Porta COM de comunicação com o dispositivo"));
+    m_cbPortas->setToolTip(text(u"Porta COM de comunicação com o dispositivo") + "  (F4)"_L1);
     m_imgAtualizar->setIcon(lineIcon(u"refresh"));
     m_imgAtualizar->setToolTip(text(u"Atualizar portas"));
     m_imgAtualizar->setAccessibleName(text(u"Atualizar portas"));
@@ -205,7 +231,8 @@ void ConnectionBar::Traducao_Form()
     m_comboBox->setAccessibleName(text(u"Velocidade"));
     m_comboBox->setToolTip(u"1: %1   2: %2"_s.arg(text(u"Rápida"), text(u"Lenta")));
     m_lbModeloFundo->setText(text(u"Modelo"));
-    m_lbSimulado->setText(text(u"Telefone simulado"));
+    m_lbSimulado->setText(text(u"Telefone simulado").replace(u' ', u'\n'));
+    m_lbSimulado->setAccessibleName(text(u"Telefone simulado"));
     for (QComboBox *models : {m_comboAparelhos, m_comboAparelhosX}) {
         models->setAccessibleName(text(u"Modelo do dispositivo"));
         models->setToolTip(text(u"Selecione o modelo do dispositivo"));

@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "findingslist.h"
 #include "icons.h"
+#include "moduletable.h"
 #include "theme.h"
 
 #include <QHBoxLayout>
@@ -16,7 +17,11 @@ FindingsPanel::FindingsPanel(QWidget *parent)
 {
     setObjectName(u"FrameAchados"_s);
     m_list->setObjectName(u"ListaAchados"_s);
-    m_clear->setAutoRaise(true);
+    m_clear->setObjectName(u"btLimparAchados"_s);
+    m_clear->setProperty("flat", true);
+    QFont strong = textFont();
+    strong.setBold(true);
+    m_title->setFont(strong);
     auto *head = new QHBoxLayout;
     head->addWidget(m_title, 1);
     head->addWidget(m_clear);
@@ -31,6 +36,10 @@ FindingsPanel::FindingsPanel(QWidget *parent)
 
 void FindingsPanel::Traducao_Form(Language language)
 {
+    QHash<QString, QString> screens;
+    for (const Module &module : modules())
+        screens.insert(module.name, caption(module.caption, language));
+    m_findings.setWords(language, screens);
     m_title->setText(caption(u"Achados", language));
     m_clear->setIcon(lineIcon(u"delete"));
     m_clear->setToolTip(caption(u"Limpar achados", language));

@@ -18,6 +18,7 @@ public:
     explicit FindingsPanel(QWidget *parent = nullptr);
 
     void add(const QList<Judgement> &judgements) { m_findings.add(judgements); }
+    void clear() { m_findings.clear(); }
     int count() const { return m_findings.openCount(); }
     void Traducao_Form(Language language);
 

@@ -6,6 +6,7 @@
 #include "icons.h"
 #include "modulerail.h"
 #include "moduletable.h"
+#include "plaintext.h"
 #include "plannedform.h"
 #include "sobre.h"
 #include "xidioma.h"
@@ -14,7 +15,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QProgressBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -25,6 +28,7 @@ using namespace Qt::StringLiterals;
 /// Narrower windows keep the findings folded to a count.
 static constexpr int kFindingsFrom = 1600;
 static constexpr int kFindingsWidth = 300;
+static constexpr int kProgressWidth = 160;
 
 Inicial::Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWidget *parent)
     : QMainWindow(parent),
@@ -56,13 +60,17 @@ QWidget *Inicial::topRow()
 {
     auto *top = new QWidget;
     auto *row = new QHBoxLayout(top);
-    row->setContentsMargins(0, 0, Spacing::control, 0);
+    row->setContentsMargins(0, 0, Spacing::group, 0);
+    row->setSpacing(Spacing::control);
     m_menuButton->setObjectName(u"btMenu"_s);
+    m_menuButton->setProperty("flat", true);
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_menu);
     m_findingsButton->setObjectName(u"btAchados"_s);
     m_findingsButton->setCheckable(true);
     m_findingsButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (QToolButton *button : {m_findingsButton, m_menuButton})
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     row->addWidget(m_connectionBar, 1);
     row->addWidget(m_findingsButton);
     row->addWidget(m_menuButton);
@@ -75,6 +83,8 @@ QWidget *Inicial::content()
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
     m_tabs->setDocumentMode(true);
+    m_tabs->tabBar()->setDrawBase(false);
+    m_tabs->tabBar()->installEventFilter(this);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_findings->setFixedWidth(kFindingsWidth);
     auto *middle = new QHBoxLayout;
@@ -97,10 +107,11 @@ void Inicial::fillStatusBar()
     m_notice->setObjectName(u"St2"_s);
     m_notice->setTextFormat(Qt::PlainText);
     m_progress->setObjectName(u"St3"_s);
-    m_progress->setRange(0, 0);
-    m_progress->setMaximumWidth(160);
+    m_progress->setRange(0, 100);
+    m_progress->setMaximumWidth(kProgressWidth);
     m_progress->setTextVisible(false);
     m_progress->hide();
+    statusBar()->setContentsMargins(Spacing::group, 0, 0, 0);
     statusBar()->addWidget(m_notice, 1);
     statusBar()->addPermanentWidget(m_progress);
 }
@@ -108,11 +119,11 @@ void Inicial::fillStatusBar()
 void Inicial::connectSession()
 {
     connect(&m_session, &Session::statusChanged, this, &Inicial::paintStatus);
-    connect(&m_session, &Session::modelChanged, this, &Inicial::paintTabs);
+    connect(&m_session, &Session::modelChanged, this, &Inicial::paintModel);
     connect(&m_session, &Session::languageChanged, this, &Inicial::Traducao_Form_Inicial);
     connect(&m_session, &Session::portsWanted, this, &Inicial::listPorts);
     connect(&m_session, &Session::refused, this, [this](const Notice &why) { showNotice({why}); });
-    connect(&m_session, &Session::storeFailed, this, &Inicial::showNotice);
+    connect(&m_session, &Session::storeFailed, this, &Inicial::tellStoreTrouble);
     connect(&m_session, &Session::linkLost, this, [this] { showNotice({{u"LINK_LOST"_s}}); });
     connect(&m_session, &Session::connectionSettled, this, [this] { m_notice->clear(); });
     connect(&m_session, &Session::modelMissing, this, [this] {
@@ -128,10 +139,14 @@ void Inicial::connectWindow()
     connect(m_rail, &ModuleRail::screenPressed, this, &Inicial::openScreen);
     connect(m_tabs, &QTabWidget::currentChanged, this, &Inicial::paintTabs);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &Inicial::closeTab);
+    connect(new QShortcut(QKeySequence(QKeySequence::Close), this), &QShortcut::activated, this,
+            [this] { closeTab(m_tabs->currentIndex()); });
+    connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, m_findingsButton, &QToolButton::click);
     connect(m_findings, &FindingsPanel::countChanged, this, &Inicial::paintFindings);
     connect(m_findings, &FindingsPanel::findingChosen, this, [this](const QString &screen) { openScreen(screen); });
     connect(m_findingsButton, &QToolButton::toggled, this, [this](bool opened) {
         m_findingsOpened = opened;
+        m_findingsButton->setIcon(lineIcon(u"findings", opened ? currentTheme().onAccent : currentTheme().text));
         foldFindings();
     });
 }
@@ -163,13 +178,15 @@ void Inicial::addForm(const QString &name)
         return;
     ScreenForm *form = makeForm(name, m_session);
     QWidget *page = form ? static_cast<QWidget *>(form) : new PlannedForm(*module, m_session);
-    m_tabs->addTab(page, text(module->caption));
+    m_tabs->addTab(page, plainText(text(module->caption)));
     if (!form)
         return;
     form->CarregaDados();
     connect(&form->screen(), &Screen::screenRequested, this, &Inicial::openScreen);
     connect(&form->screen(), &Screen::readingEnded, this,
             [this, form] { m_findings->add(form->screen().reading().judgements); });
+    connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
+    connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
 }
 
 void Inicial::readScreen(const QString &name)
@@ -181,6 +198,8 @@ void Inicial::readScreen(const QString &name)
 void Inicial::closeTab(int index)
 {
     QWidget *page = m_tabs->widget(index);
+    if (!page)
+        return;
     m_tabs->removeTab(index);
     delete page; // at once: its screen must not take a late reply
     paintTabs();
@@ -206,10 +225,39 @@ void Inicial::showNotice(const Trouble &trouble)
     m_notice->setToolTip(m_notice->text());
 }
 
+/// Every failure gets the line; a box only the first of its kind, or one that the user's own doing met.
+void Inicial::tellStoreTrouble(const Trouble &trouble)
+{
+    showNotice(trouble);
+    if (m_toldTrouble == trouble.what)
+        return;
+    m_toldTrouble = trouble.what;
+    m_session.boxes().message(trouble);
+}
+
 void Inicial::paintStatus()
 {
     setWindowTitle(m_session.windowCaption());
-    m_progress->setVisible(m_session.Status() == "3"_L1 || m_session.Status() == "2"_L1);
+    paintProgress();
+}
+
+/// How far the screen in front is, while a command is in flight.
+void Inicial::paintProgress()
+{
+    const auto *form = qobject_cast<ScreenForm *>(m_tabs->currentWidget());
+    const Field bar = form ? form->screen().panel().fields.value(u"Barra"_s) : Field();
+    m_progress->setValue(bar.value.value_or(0));
+    m_progress->setVisible(m_session.Status() == "3"_L1 && bar.value);
+}
+
+/// Another phone's faults are no findings on this one.
+void Inicial::paintModel()
+{
+    if (m_session.isModelKnown() && m_session.model() != m_foundOn) {
+        m_foundOn = m_session.model();
+        m_findings->clear();
+    }
+    paintTabs();
 }
 
 void Inicial::paintTabs()
@@ -219,16 +267,20 @@ void Inicial::paintTabs()
     m_rail->Traducao_Form(m_session.language(), m_session.model());
     for (int i = 0; i < m_tabs->count(); ++i) {
         const Module *module = moduleNamed(m_tabs->widget(i)->objectName());
-        m_tabs->setTabText(i, text(module->caption));
+        m_tabs->setTabText(i, plainText(text(module->caption)));
+        m_tabs->setTabToolTip(i, text(u"Fechar aba") + "  (Ctrl+W)"_L1);
         m_tabs->setTabIcon(i, lineIcon(QString(module->icon)));
     }
     m_tabs->setVisible(m_tabs->count() > 0);
     m_emptyHint->setVisible(m_tabs->count() == 0);
+    paintProgress();
 }
 
 void Inicial::paintFindings()
 {
-    m_findingsButton->setText(u"%1: %2"_s.arg(text(u"Achados")).arg(m_findings->count()));
+    const QString shown = u"%1: %2"_s.arg(text(u"Achados")).arg(m_findings->count());
+    m_findingsButton->setText(shown);
+    m_findingsButton->setToolTip(shown + "  (F3)"_L1);
 }
 
 void Inicial::foldFindings()
@@ -236,6 +288,14 @@ void Inicial::foldFindings()
     const bool wide = width() >= kFindingsFrom;
     m_findingsButton->setVisible(!wide);
     m_findings->setVisible(wide || m_findingsOpened);
+}
+
+bool Inicial::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *click = event->type() == QEvent::MouseButtonRelease ? static_cast<QMouseEvent *>(event) : nullptr;
+    if (watched == m_tabs->tabBar() && click && click->button() == Qt::MiddleButton)
+        closeTab(m_tabs->tabBar()->tabAt(click->pos()));
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void Inicial::resizeEvent(QResizeEvent *event)
@@ -270,8 +330,9 @@ void Inicial::Traducao_Form_Inicial()
 {
     m_connectionBar->Traducao_Form();
     m_findings->Traducao_Form(m_session.language());
-    m_findingsButton->setIcon(lineIcon(u"findings"));
-    m_menuButton->setText(u"☰"_s);
+    const Theme &theme = currentTheme();
+    m_findingsButton->setIcon(lineIcon(u"findings", m_findingsOpened ? theme.onAccent : theme.text));
+    m_menuButton->setIcon(lineIcon(u"menu"));
     m_menuButton->setToolTip(text(u"Ferramentas"));
     m_menuButton->setAccessibleName(text(u"Ferramentas"));
     m_emptyHint->setText(text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));

@@ -40,6 +40,7 @@ public:
     void Traducao_Form_Inicial();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -51,7 +52,10 @@ private:
     void buildMenu();
     void addForm(const QString &name);
     void listPorts();
+    void tellStoreTrouble(const Trouble &trouble);
     void paintStatus();
+    void paintProgress();
+    void paintModel();
     void paintTabs();
     void paintFindings();
     void foldFindings();
@@ -72,4 +76,6 @@ private:
     QLabel *m_notice;
     QProgressBar *m_progress;
     bool m_findingsOpened = false;
+    QString m_foundOn; ///< the model that the findings are about
+    std::optional<Notice> m_toldTrouble;
 };

@@ -7,7 +7,7 @@
 #include <QScrollArea>
 
 class QLabel;
-class QToolButton;
+class RailButton;
 
 /// The left side of the window: one button per screen, in bench order.
 class ModuleRail : public QScrollArea
@@ -25,8 +25,11 @@ signals:
     void screenPressed(const QString &screen);
 
 private:
-    QToolButton *addButton(const Module &module);
+    RailButton *addButton(const Module &module);
+    void addKeyHint(QLabel &heading);
+    void paintIcons();
 
-    QHash<QString, QToolButton *> m_buttons;
+    QHash<QString, RailButton *> m_buttons;
     QHash<int, QLabel *> m_headings;
+    QLabel *m_keyHint;
 };

@@ -38,7 +38,8 @@ static void paintLine(QPainter &painter, const QRect &line, const QString &left,
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, right);
 }
 
-static void paintFinding(QPainter &painter, const QRect &area, const Judgement &finding, bool chosen)
+static void paintFinding(QPainter &painter, const QRect &area, const Judgement &finding, const QString &screen,
+                         bool chosen)
 {
     const Theme &theme = currentTheme();
     const bool open = finding.verdict == Verdict::Fail;
@@ -52,7 +53,7 @@ static void paintFinding(QPainter &painter, const QRect &area, const Judgement &
     paintLine(painter, text.adjusted(0, 0, 0, -text.height() / 2), finding.what, deviationOf(finding));
     painter.setPen(chosen ? theme.onAccent : theme.dim);
     painter.setFont(textFont(TextSize::Small));
-    paintLine(painter, text.adjusted(0, text.height() / 2, 0, 0), readingOf(finding), finding.screen);
+    paintLine(painter, text.adjusted(0, text.height() / 2, 0, 0), readingOf(finding), screen);
 }
 
 void FindingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -61,7 +62,8 @@ void FindingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     QApplication::style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &shown, painter, option.widget);
     const QRect area = option.rect.adjusted(Spacing::control, Spacing::unit, -Spacing::control, -Spacing::unit);
     painter->save();
-    paintFinding(*painter, area, m_findings.finding(index.row()), option.state & QStyle::State_Selected);
+    const Judgement &finding = m_findings.finding(index.row());
+    paintFinding(*painter, area, finding, m_findings.screenCaption(finding), option.state & QStyle::State_Selected);
     painter->setPen(currentTheme().border);
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     painter->restore();

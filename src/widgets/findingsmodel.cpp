@@ -1,5 +1,7 @@
 #include "findingsmodel.h"
 
+#include "sourcetext.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,14 @@ void FindingsModel::add(const QList<Judgement> &judgements)
     emit openCountChanged(openCount());
 }
 
+void FindingsModel::setWords(Language language, const QHash<QString, QString> &screens)
+{
+    m_language = language;
+    m_screens = screens;
+    if (!m_findings.isEmpty())
+        emit dataChanged(index(0), index(rowCount() - 1));
+}
+
 void FindingsModel::clear()
 {
     beginResetModel();
@@ -61,6 +71,6 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
         return {};
     const Judgement &shown = finding(index.row());
     if (role == Qt::DisplayRole)
-        return QStringList{shown.screen, shown.what, shown.reading, shown.reference}.join(u'\t');
-    return role == Qt::ToolTipRole ? shown.source : QVariant();
+        return QStringList{screenCaption(shown), shown.what, shown.reading, shown.reference}.join(u'\t');
+    return role == Qt::ToolTipRole ? sourceText(shown.source, m_language) : QVariant();
 }

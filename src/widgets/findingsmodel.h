@@ -1,8 +1,10 @@
 #pragma once
 
+#include "language.h"
 #include "panel.h"
 
 #include <QAbstractListModel>
+#include <QHash>
 
 /// What readings judged faulty, newest first. A thing judged again moves to the top instead of standing there twice;
 /// one that passes later stays, marked as settled.
@@ -12,6 +14,10 @@ class FindingsModel : public QAbstractListModel
 
 public:
     using QAbstractListModel::QAbstractListModel;
+
+    /// The language of the tips, and how the screens are called in it.
+    void setWords(Language language, const QHash<QString, QString> &screens);
+    QString screenCaption(const Judgement &finding) const { return m_screens.value(finding.screen, finding.screen); }
 
     /// Takes the faults of a reading over, in their order, above the older ones.
     void add(const QList<Judgement> &judgements);
@@ -28,5 +34,7 @@ signals:
     void openCountChanged(int count);
 
 private:
+    Language m_language = Language::English;
+    QHash<QString, QString> m_screens;
     QList<Judgement> m_findings; ///< verdict Pass: settled
 };

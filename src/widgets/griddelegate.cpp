@@ -8,9 +8,9 @@
 #include <QApplication>
 #include <QPainter>
 
-static constexpr int kInset = 5;
+static constexpr int kInset = 4;
 static constexpr int kGlyphWidth = 14;
-static constexpr int kBarWidth = 101;
+static constexpr int kBarWidth = 61;
 static constexpr int kBarHeight = 10;
 
 GridDelegate::GridDelegate(const PanelModel &rows, QObject *parent) : QStyledItemDelegate(parent), m_rows(rows) {}
@@ -51,7 +51,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     if (indent > 0)
         option->features |= QStyleOptionViewItem::HasDecoration;
     if (indent > 0)
-        option->decorationSize = {indent + Spacing::control, kBarHeight};
+        option->decorationSize = {indent + Spacing::unit, kBarHeight};
     // The frame around the one current cell says nothing where whole rows are chosen.
     option->state &= ~QStyle::State_HasFocus;
 }
@@ -121,5 +121,5 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
 QSize GridDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return {hint.width() + 2 * Spacing::control, std::max(hint.height(), 7 * Spacing::unit)};
+    return {hint.width() + 2 * kInset, hint.height()};
 }

@@ -22,6 +22,8 @@ public:
 
     /// Paints the panel. Returns the names of its fields that the form has no control for.
     QStringList paint(const Panel &panel);
+    /// The colours mean other values now: the next painting touches everything again.
+    void forget() { m_painted.clear(); }
 
 private:
     QWidget *control(const QString &name);

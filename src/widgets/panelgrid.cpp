@@ -20,6 +20,11 @@
 
 using namespace Qt::StringLiterals;
 
+/// Close rows: a whole board is to be seen at once, and nobody has to hit a row with a finger.
+static constexpr int kRowHeight = 5 * Spacing::unit;
+
+static constexpr int kLeastColumn = 48;
+
 PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_rows(rows)
 {
     setModel(&rows);
@@ -31,9 +36,10 @@ PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_
     setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(7 * Spacing::unit);
+    verticalHeader()->setMinimumSectionSize(kRowHeight);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultSectionSize(kLeastColumn);
     connect(&rows, &PanelModel::shown, this, &PanelGrid::fitColumns);
 }
 

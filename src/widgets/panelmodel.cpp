@@ -1,10 +1,13 @@
 #include "panelmodel.h"
 
 #include "glyph.h"
+#include "sourcetext.h"
 
 #include <QSet>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 PanelModel::PanelModel(std::span<const GridColumn> columns, QObject *parent)
     : QAbstractTableModel(parent), m_columns(columns.begin(), columns.end())
@@ -107,11 +110,17 @@ QString PanelModel::text(const Row &row, const GridColumn &column) const
     return row.verdict == Verdict::None ? QString() : verdictCaption(row.verdict, m_language);
 }
 
-/// The reference data names its sources by caption keys; a source of the technician's own is shown as it is.
-static QString sourceText(const QString &source, Language language)
+static QString labelled(QStringView label, const QString &key, Language language)
 {
-    const QString known = caption(source, language);
-    return known.isEmpty() ? source : known;
+    return key.isEmpty() ? QString() : caption(label, language) + u": "_s + sourceText(key, language);
+}
+
+static QString referenceTip(const Row &row, Language language)
+{
+    QStringList lines{labelled(u"Fonte da referência", row.source, language),
+                      labelled(u"Confiança", row.confidence, language)};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 QVariant PanelModel::data(const QModelIndex &index, int role) const
@@ -123,7 +132,7 @@ QVariant PanelModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(shown, column(index.column()));
     case Qt::ToolTipRole:
-        return sourceText(shown.source, m_language);
+        return referenceTip(shown, m_language);
     case Qt::TextAlignmentRole:
         return static_cast<int>(column(index.column()).alignment());
     default:

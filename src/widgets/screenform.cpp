@@ -6,7 +6,7 @@ ScreenForm::ScreenForm(std::unique_ptr<Screen> screen, QWidget *parent) : QWidge
 {
     setObjectName(m_screen->name());
     connect(m_screen.get(), &Screen::panelChanged, this, &ScreenForm::paintPanel);
-    connect(&m_screen->session(), &Session::languageChanged, this, [this] { Traducao_Form(); });
+    connect(&m_screen->session(), &Session::languageChanged, this, &ScreenForm::repaintAll);
 }
 
 void ScreenForm::CarregaDados()
@@ -18,6 +18,13 @@ void ScreenForm::CarregaDados()
 Language ScreenForm::language() const
 {
     return m_screen->session().language();
+}
+
+void ScreenForm::repaintAll()
+{
+    Traducao_Form();
+    m_painter.forget();
+    paintPanel();
 }
 
 QString ScreenForm::text(QStringView key) const

@@ -23,6 +23,10 @@ public:
     /// Fills the form when it is opened.
     virtual void CarregaDados();
 
+signals:
+    /// The user asked for something that is to last: should the store refuse it, a line at the bottom is not enough.
+    void keepingAsked();
+
 protected:
     Painter &painter() { return m_painter; }
     Language language() const;
@@ -33,6 +37,8 @@ protected:
     virtual void paintPanel();
 
 private:
+    void repaintAll();
+
     std::unique_ptr<Screen> m_screen;
     Painter m_painter{*this};
 };

@@ -93,9 +93,19 @@ QPushButton:pressed, QPushButton:checked { background: @accent; color: @onAccent
 QPushButton[primary="true"] { background: @accent; color: @onAccent; font-weight: bold; }
 QPushButton:disabled, QPushButton[primary="true"]:disabled { background: @window; color: @dim;
     border-color: @border; }
-QComboBox, QSpinBox { min-height: 24px; }
+QToolButton { min-width: 22px; min-height: 22px; padding: 4px; border: 1px solid @border; border-radius: 4px;
+    background: @surface; color: @text; }
+QToolButton:hover, QToolButton:focus { border-color: @accent; }
+QToolButton:pressed, QToolButton:checked { background: @accent; color: @onAccent; }
+QToolButton:disabled { background: @window; color: @dim; }
+QToolButton[flat="true"] { background: transparent; border-color: transparent; }
+QToolButton[flat="true"]:checked, QToolButton[flat="true"]:pressed { background: @accent; }
+QToolButton[flat="true"]:hover, QToolButton[flat="true"]:focus { border-color: @accent; }
+QToolButton::menu-indicator { image: none; }
+QComboBox, QSpinBox { min-height: 28px; }
 QLineEdit { min-height: 22px; padding: 2px 6px; border: 1px solid @border; border-radius: 4px; }
 QLineEdit:focus { border-color: @accent; }
+QComboBox QLineEdit { border: none; padding: 0; }
 QTableView, QListView, QTreeView { border: 1px solid @border; }
 QRadioButton, QCheckBox { min-height: 28px; spacing: 8px; }
 QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @dim;
@@ -105,8 +115,26 @@ QCheckBox::indicator { border-radius: 3px; }
 QRadioButton::indicator:checked { border-color: @accent; background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5,
     fx: 0.5, fy: 0.5, stop: 0 @accent, stop: 0.5 @accent, stop: 0.6 @surface, stop: 1 @surface); }
 QCheckBox::indicator:checked { border-color: @accent; background: @accent; image: url(:/icons/style/@tick.svg); }
-QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid @border;
+QHeaderView { font-size: 9.5pt; background: @window; }
+QHeaderView::section { padding: 4px 6px; border: none; border-bottom: 1px solid @border;
     background: @window; color: @dim; }
+QTabBar::tab { min-height: 22px; padding: 4px 8px 4px 12px; border: none; border-bottom: 3px solid transparent;
+    background: transparent; color: @dim; }
+QTabBar::tab:selected { border-bottom-color: @accent; color: @text; }
+QTabBar::tab:hover { color: @text; }
+QTabBar::close-button { image: url(:/icons/style/@close.svg); padding: 2px; border-radius: 3px; }
+QTabBar::close-button:hover { background: @border; }
+QTabWidget::pane { border: none; }
+QProgressBar { min-height: 14px; max-height: 14px; border: 1px solid @border; border-radius: 4px;
+    background: @surface; text-align: center; }
+QProgressBar::chunk { background: @accent; border-radius: 3px; }
+QStatusBar { border-top: 1px solid @border; }
+QStatusBar::item { border: none; }
+QMenu { padding: 4px; border: 1px solid @border; background: @surface; }
+QMenu::item { min-height: 24px; padding: 2px 24px 2px 8px; border-radius: 3px; }
+QMenu::item:selected { background: @accent; color: @onAccent; }
+QMenu::separator { height: 1px; margin: 4px; background: @border; }
+QMenu::icon { padding-left: 4px; }
 QToolTip { padding: 4px; border: 1px solid @border; background: @surface; color: @text; }
 )"_L1;
     const std::pair<QLatin1StringView, QColor> names[] = {
@@ -116,12 +144,14 @@ QToolTip { padding: 4px; border: 1px solid @border; background: @surface; color:
     QString sheet = kSheet;
     for (const auto &[name, colour] : names)
         sheet.replace(name, colour.name());
+    sheet.replace("@close"_L1, theme.dark ? "close-dark"_L1 : "close-light"_L1);
     return sheet.replace("@tick"_L1, theme.dark ? "tick-dark"_L1 : "tick-light"_L1);
 }
 
 void applyTheme(QApplication &application, ThemeChoice choice)
 {
-    const bool dark = choice == ThemeChoice::Dark || (choice == ThemeChoice::Desktop && currentTheme().dark);
+    static const bool desktopDark = currentTheme().dark; // asked before our own palette covers it
+    const bool dark = choice == ThemeChoice::Dark || (choice == ThemeChoice::Desktop && desktopDark);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(paletteOf(theme(dark)));
     QApplication::setFont(textFont());

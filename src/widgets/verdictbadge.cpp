@@ -10,7 +10,10 @@
 using namespace Qt::StringLiterals;
 
 static constexpr int kGlyphWidth = 28;
-static constexpr int kTextLeft = Spacing::group + kGlyphWidth + Spacing::group;
+static constexpr int kTextLeft = Spacing::control + kGlyphWidth + Spacing::control;
+
+/// Wide enough that most verdicts come and go without moving what stands beside them.
+static constexpr int kLeastWidth = 240;
 
 void VerdictBadge::setLanguage(Language language)
 {
@@ -55,7 +58,7 @@ QSize VerdictBadge::sizeHint() const
 {
     const int word = QFontMetrics(textFont(TextSize::Large)).horizontalAdvance(m_word);
     const int detail = QFontMetrics(textFont(TextSize::Small)).horizontalAdvance(m_detail);
-    return {kTextLeft + std::max(word, detail) + Spacing::group, 14 * Spacing::unit};
+    return {std::max(kLeastWidth, kTextLeft + std::max(word, detail) + Spacing::group), 13 * Spacing::unit};
 }
 
 void VerdictBadge::paintEvent(QPaintEvent *)
@@ -68,9 +71,9 @@ void VerdictBadge::paintEvent(QPaintEvent *)
     painter.setPen(none ? theme.border : Qt::transparent);
     painter.setBrush(fieldColour(m_panel.verdict, theme));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Spacing::unit, Spacing::unit);
-    paintGlyph(painter, QRect(Spacing::group, 0, kGlyphWidth, height()), glyphOf(m_panel.verdict), ink);
+    paintGlyph(painter, QRect(Spacing::control, 0, kGlyphWidth, height()), glyphOf(m_panel.verdict), ink);
     painter.setPen(ink);
-    const QRect text = rect().adjusted(kTextLeft, Spacing::unit, 0, -Spacing::unit);
+    const QRect text = rect().adjusted(kTextLeft, 2, 0, -Spacing::unit);
     painter.setFont(textFont(TextSize::Large));
     painter.drawText(text, m_detail.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop, m_word);
     painter.setFont(textFont(TextSize::Small));

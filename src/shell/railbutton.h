@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QToolButton>
+
+/// A button of the rail: icon and caption, and at its right the key that does the same.
+class RailButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit RailButton(QString key, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_key;
+};
