@@ -44,10 +44,17 @@ constexpr Place kHouse[] = {
     {"prelt_window"_L1, 10, 9},
     {"tavimo-prelt"_L1, 11, 10},
     {"prelt"_L1, 11, 7},
+    {"prelt_cli"_L1, 12, 7},
     {"prelt_sim"_L1, 12, 3},
 };
 
-constexpr QLatin1StringView kMeetThePhone[] = {"prelt"_L1, "tavimo-prelt"_L1};
+/// Who may use what stands beside the line: the simulated phone, and the terminal's own pieces.
+constexpr std::pair<QLatin1StringView, QLatin1StringView> kBeside[] = {
+    {"prelt_cli"_L1, "prelt_sim"_L1},
+    {"prelt"_L1, "prelt_sim"_L1},
+    {"prelt"_L1, "prelt_cli"_L1},
+    {"tavimo-prelt"_L1, "prelt_sim"_L1},
+};
 
 const Place *placeOf(const QString &target)
 {
@@ -57,10 +64,9 @@ const Place *placeOf(const QString &target)
 
 bool mayUse(const QString &user, const QString &used)
 {
-    if (user == used)
+    const auto isThisPair = [&](const auto &pair) { return pair.first == user && pair.second == used; };
+    if (user == used || std::ranges::any_of(kBeside, isThisPair))
         return true;
-    if (used == "prelt_sim"_L1)
-        return std::ranges::find(kMeetThePhone, user) != std::end(kMeetThePhone);
     const Place *const from = placeOf(user);
     const Place *const to = placeOf(used);
     return from && to && to->place <= from->reach;
@@ -135,6 +141,7 @@ void TestTree::rule_data()
     QTest::newRow("the terminal to the simulated phone") << u"prelt"_s << u"prelt_sim"_s << true;
     QTest::newRow("the session to the simulated phone") << u"prelt_session"_s << u"prelt_sim"_s << false;
     QTest::newRow("the simulated phone to the session") << u"prelt_sim"_s << u"prelt_session"_s << false;
+    QTest::newRow("the window to the terminal's pieces") << u"tavimo-prelt"_s << u"prelt_cli"_s << false;
     QTest::newRow("a program to the other") << u"tavimo-prelt"_s << u"prelt"_s << false;
 }
 
