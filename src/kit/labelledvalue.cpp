@@ -17,7 +17,7 @@ static QString lineAt(const QString &reply, qsizetype position)
 
 static bool isNumber(const QString &text)
 {
-    static const QRegularExpression number(u"^-?[0-9]+(\\.[0-9]*)?$"_s);
+    static const QRegularExpression number(u"^-?[0-9]+(\\.[0-9]*)?\\z"_s); // "$" would let a line end pass
     return number.match(text).hasMatch();
 }
 
@@ -30,6 +30,8 @@ static QString volts(const QString &millivolts)
 
 static LabelledValue number(const QString &token, QChar unit, const QString &line)
 {
+    if (!unit.isLetter()) // the unit itself was lost: "1800.0000 m" must not pass for a current
+        return {};
     if (unit == u'V')
         return isNumber(token) ? LabelledValue{LabelledValue::Kind::Volt, volts(token), line} : LabelledValue{};
     const QString shortened = token.chopped(1);

@@ -107,6 +107,7 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
         return rail;
     if (isNeverMeasured(context.model, row, rules)) {
         rail.row.leitura = kNeverMeasured;
+        rail.row.porc = row.refV.isEmpty() ? QString() : u"0 %"_s;
         return rail;
     }
     const QString label = BistLabel(row.refT);
@@ -121,10 +122,18 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
     return rail;
 }
 
+/// How far up a rail belongs: one with a reading but no deviation stands below the others, one without a reading last.
+static double distance(const EvaluatedRail &rail)
+{
+    const RailRow &row = rail.row;
+    if (row.leitura.isEmpty() || row.leitura.endsWith(kNeverMeasured))
+        return -2.0;
+    return row.porc.isEmpty() ? -1.0 : std::abs(leadingNumber(row.porc));
+}
+
 QList<EvaluatedRail> byDeviation(QList<EvaluatedRail> rails)
 {
-    const auto magnitude = [](const EvaluatedRail &rail) { return rail.deviation ? std::abs(*rail.deviation) : -1.0; };
-    std::ranges::stable_sort(rails, std::ranges::greater(), magnitude);
+    std::ranges::stable_sort(rails, std::ranges::greater(), distance);
     return rails;
 }
 

@@ -56,7 +56,7 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
 /// A row has a reference when its nominal is known and is not "0".
 bool hasReference(const RailRow &row);
 
-/// Largest magnitude of the deviation first, rows without one last.
+/// Largest magnitude of the deviation first, then readings without a deviation, rows without a reading last.
 QList<EvaluatedRail> byDeviation(QList<EvaluatedRail> rails);
 
 /// The rows, the judgements and the verdict of a grid of rails. A cut reply is never judged good.

@@ -45,7 +45,10 @@ static QList<Notice> unknownIndices(const QList<EvaluatedRail> &rails)
 
 RailReading readRails(const RailScreenTraits &traits, const RailInput &input, const QList<RailRow> &rows)
 {
-    const QList<EvaluatedRail> rails = evaluated(traits, input, sorted(rows, input.order));
+    // Deviations of an earlier reading are no order: this one sorts its own, from the plain order on.
+    const bool byOwnDeviation = input.order == RailOrder::PorcDescending;
+    const RailOrder order = byOwnDeviation ? traits.malhaOrder : input.order;
+    const QList<EvaluatedRail> rails = evaluated(traits, input, sorted(rows, order));
     RailReading reading;
     reading.panel.screen = traits.name;
     reading.panel.title = traits.title + u" - Tavimo Prelt - "_s + input.model;
