@@ -101,7 +101,9 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
         addCommon(*live, arguments.common);
         addPort(*live, arguments.common);
     }
-    addText(*send, "command", arguments.text, "the command line")->required();
+    addText(*send, "command", arguments.text, "the command line")->required()->check([](const std::string &text) {
+        return text.find_first_not_of(" ") == std::string::npos ? "it is empty" : "";
+    });
 
     CLI::App *run = app.add_subcommand("run", "ask the phone, judge, print");
     addScreens(*run, arguments, [&arguments](CLI::App &screen) {
@@ -127,6 +129,26 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
     return commands;
 }
 
+const CLI::App &innermost(const CLI::App &app)
+{
+    const auto chosen = app.get_subcommands();
+    return chosen.empty() ? app : innermost(*chosen.front());
+}
+
+/// What is wrong in one line, with the help that fits.
+std::string complaint(const CLI::App *app, const CLI::Error &error)
+{
+    const CLI::App &where = innermost(*app);
+    const auto unknown = app->remaining(true);
+    const bool noSuchCommand = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+                               !where.get_subcommands({}).empty() && !unknown.empty();
+    const std::string what = noSuchCommand ? "No such command: " + unknown.front() : error.what();
+    std::string name = where.get_name();
+    for (const CLI::App *parent = where.get_parent(); parent; parent = parent->get_parent())
+        name = parent->get_name() + ' ' + name;
+    return "prelt: " + what + ". Try: " + name + " --help\n";
+}
+
 } // namespace
 
 std::variant<Arguments, ExitCode> parseArguments(int argc, char **argv)
@@ -135,6 +157,7 @@ std::variant<Arguments, ExitCode> parseArguments(int argc, char **argv)
     CLI::App app("Reads and judges phone logic boards over a serial Box.", "prelt");
     app.set_version_flag("--version", "2.22");
     app.require_subcommand(1);
+    app.failure_message(complaint);
     app.footer("Exit codes: 0 good, 1 fault found, 2 wrong usage, 3 the link failed, 4 the store failed, "
                "5 incomplete.");
     const Commands commands = addCommands(app, arguments);

@@ -18,5 +18,7 @@ void DetectErrand::connectedToPhone()
         printOut(document({{u"model"_s, known ? session().model() : QString()}, {u"record"_s, session().lbModelo()}}));
     else if (known)
         printOut(session().model() + u'\n');
+    if (!known && messages().isEmpty())
+        printError(oneLine({{u"MSG_SELECIONE_MODELO"_s}}, language()));
     finish(known ? ExitCode::Good : ExitCode::Incomplete);
 }

@@ -28,8 +28,11 @@ void Errand::watchSession()
     connect(&session(), &Session::linkLost, this, [this] { fail({{u"LINK_LOST"_s}}, ExitCode::Link); });
     connect(&session(), &Session::storeFailed, this,
             [this](const Trouble &trouble) { fail(trouble, ExitCode::Store); });
-    connect(&session(), &Session::refused, this, [this](const Notice &why) { printError(oneLine({why}, language())); });
-    connect(&m_timeout, &QTimer::timeout, this, [this] { fail({{u"NO_ANSWER"_s}}, ExitCode::Link); });
+    connect(&session(), &Session::refused, this, [this](const Notice &why) {
+        if (!m_finished)
+            printError(oneLine({why}, language()));
+    });
+    connect(&m_timeout, &QTimer::timeout, this, [this] { fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link); });
     m_timeout.setSingleShot(true);
 }
 

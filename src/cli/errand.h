@@ -29,6 +29,7 @@ protected:
     /// The phone is connected; its model is known if it could be told.
     virtual void connectedToPhone() = 0;
     void connectToPhone();
+    bool isFinished() const { return m_finished; }
     void finish(ExitCode code);
     void fail(const Trouble &trouble, ExitCode code);
 

@@ -30,7 +30,8 @@ static std::optional<QByteArray> readReply(const QString &path)
     const bool open = path == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (open)
         return file.readAll();
-    printError(u"prelt: %1: %2"_s.arg(path, file.errorString()));
+    printError(u"prelt: --reply %1: %2. Name a file with the phone's bytes, or - for standard input."_s.arg(
+        path, file.errorString()));
     return {};
 }
 

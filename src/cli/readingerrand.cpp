@@ -27,6 +27,8 @@ void ReadingErrand::makeScreen()
 void ReadingErrand::start()
 {
     Errand::start();
+    if (isFinished())
+        return;
     if (!m_replayed)
         return connectToPhone();
     session().adopt({}, options().model);
@@ -37,7 +39,14 @@ void ReadingErrand::connectedToPhone()
 {
     if (!options().model.isEmpty())
         session().chooseModel(options().model);
+    if (!session().isModelKnown()) // asking the phone again would only tell the same twice
+        return refuseWithoutModel();
     readScreen();
+}
+
+void ReadingErrand::refuseWithoutModel()
+{
+    fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
 }
 
 void ReadingErrand::readScreen()
@@ -52,9 +61,10 @@ void ReadingErrand::readScreen()
 void ReadingErrand::printReading()
 {
     const Panel &panel = m_screen->reading();
-    if (!m_screen->hasReading())
-        return fail({{session().isModelKnown() ? u"NO_ANSWER"_s : u"REFUSED_NO_MODEL"_s}},
-                    session().isModelKnown() ? ExitCode::Link : ExitCode::Incomplete);
+    if (!session().isModelKnown())
+        return refuseWithoutModel();
+    if (!m_screen->hasReading()) // why was told when it was refused
+        return finish(ExitCode::Link);
     const ReadingContext context{session().model(), language(), session().txtComandos(), messages()};
     printOut(options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted()));
     finish(exitCodeFor(panel.verdict));

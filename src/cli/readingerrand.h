@@ -21,6 +21,7 @@ private:
     void makeScreen();
     void readScreen();
     void printReading();
+    void refuseWithoutModel();
 
     ScreenOptions m_screenOptions;
     bool m_replayed;

@@ -33,7 +33,7 @@ void SendErrand::connectedToPhone()
 void SendErrand::take(const Delivery &delivery)
 {
     if (delivery.reply.isEmpty())
-        return fail({{u"NO_ANSWER"_s}}, ExitCode::Link);
+        return fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link);
     if (options().json)
         printOut(document({{u"command"_s, m_command}, {u"reply"_s, delivery.reply}, {u"cut"_s, delivery.cut}}));
     else

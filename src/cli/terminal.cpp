@@ -9,14 +9,29 @@
 
 using namespace Qt::StringLiterals;
 
+/// The lines of a box one after the other, each closed like a sentence.
+static QString joined(const QStringList &lines)
+{
+    QString text;
+    for (const QString &line : lines) {
+        const QString next = line.simplified();
+        if (next.isEmpty())
+            continue;
+        if (!text.isEmpty())
+            text += ".:!?;,"_L1.contains(text.back()) ? u" "_s : u". "_s;
+        text += next;
+    }
+    return text;
+}
+
 static QString sentence(const Notice &notice, Language language)
 {
     if (notice.key.isEmpty())
-        return notice.arguments.join(": "_L1).trimmed();
+        return joined(notice.arguments.join(": "_L1).split(u'\n'));
     const auto shown = message(notice, language);
     if (!shown)
         return notice.key;
-    const QString text = shown->lines.join(u' ').simplified();
+    const QString text = joined(shown->lines);
     const QString title = shown->title.trimmed();
     return title.isEmpty() || title == "Tavimo Prelt"_L1 ? text : title + ": "_L1 + text;
 }
@@ -26,7 +41,7 @@ QString oneLine(const Trouble &trouble, Language language)
     QStringList sentences{sentence(trouble.what, language)};
     for (const Notice &remedy : trouble.remedies)
         sentences.append(sentence(remedy, language));
-    return sentences.join(u' ');
+    return joined(sentences);
 }
 
 static void print(FILE *stream, const QString &text)

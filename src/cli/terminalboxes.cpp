@@ -11,5 +11,6 @@ void TerminalBoxes::message(const Trouble &trouble)
 void TerminalBoxes::ask(const Question &question, std::function<void(Answer)> answered)
 {
     m_shown.append({{}, {question.title, question.text}});
+    printError(oneLine({m_shown.last()}, m_language));
     answered(Answer::Yes);
 }
