@@ -161,7 +161,8 @@ QString ConnectionBar::port() const
 void ConnectionBar::setPort(const QString &port)
 {
     m_cbPortas->setCurrentText(port);
-    m_cbPortas->lineEdit()->setCursorPosition(0);
+    if (!m_cbPortas->lineEdit()->hasFocus())
+        m_cbPortas->lineEdit()->setCursorPosition(0); // a long name is known by its start
 }
 
 void ConnectionBar::listPorts(const QList<PortEntry> &ports)
@@ -215,7 +216,7 @@ void ConnectionBar::paintModel()
         models->setCurrentIndex(models->findText(m_session.model()));
     m_lbModelo->setText(m_session.lbModelo());
     m_lbTristarTigris->setText(portController(m_session.model()) + "\nTigris"_L1);
-    m_lbTristarTigris->setVisible(!m_session.model().isEmpty());
+    m_lbTristarTigris->setVisible(m_session.isModelKnown());
 }
 
 void ConnectionBar::Traducao_Form()

@@ -56,6 +56,12 @@ Inicial::Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWid
     resize(1280, 800);
 }
 
+/// Screens settle when they are hidden and tell the window: it must still be whole then.
+Inicial::~Inicial()
+{
+    hide();
+}
+
 QWidget *Inicial::topRow()
 {
     auto *top = new QWidget;
@@ -139,7 +145,7 @@ void Inicial::connectWindow()
     connect(m_rail, &ModuleRail::screenPressed, this, &Inicial::openScreen);
     connect(m_tabs, &QTabWidget::currentChanged, this, &Inicial::paintTabs);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &Inicial::closeTab);
-    connect(new QShortcut(QKeySequence(QKeySequence::Close), this), &QShortcut::activated, this,
+    connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this,
             [this] { closeTab(m_tabs->currentIndex()); });
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, m_findingsButton, &QToolButton::click);
     connect(m_findings, &FindingsPanel::countChanged, this, &Inicial::paintFindings);

@@ -26,6 +26,7 @@ class Inicial : public QMainWindow
 
 public:
     explicit Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWidget *parent = nullptr);
+    ~Inicial() override;
 
     ConnectionBar &connectionBar() const { return *m_connectionBar; }
 

@@ -1,6 +1,8 @@
 #include "windowboxes.h"
 
 #include "catalogue.h"
+#include "icons.h"
+#include "theme.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -9,19 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-static QMessageBox::Icon boxIcon(MessageIcon icon)
+static QPixmap boxPicture(MessageIcon icon)
 {
-    switch (icon) {
-    case MessageIcon::Information:
-        return QMessageBox::Information;
-    case MessageIcon::Critical:
-        return QMessageBox::Critical;
-    case MessageIcon::Question:
-        return QMessageBox::Question;
-    case MessageIcon::None:
-        break;
-    }
-    return QMessageBox::NoIcon;
+    static constexpr int kSide = 32;
+    static constexpr QStringView kPictures[] = {u"", u"about", u"warning", u"help"};
+    return lineIcon(kPictures[static_cast<std::size_t>(icon)], currentTheme().accent).pixmap(kSide);
 }
 
 static Message boxMessage(const Notice &notice, Language language)
@@ -38,7 +32,8 @@ QMessageBox *WindowBoxes::messageBox(const Trouble &trouble) const
     for (const Notice &remedy : trouble.remedies)
         lines += boxMessage(remedy, m_language()).lines;
     auto *box =
-        new QMessageBox(boxIcon(shown.icon), shown.title.trimmed(), lines.join(u'\n'), QMessageBox::Ok, m_parent);
+        new QMessageBox(QMessageBox::NoIcon, shown.title.trimmed(), lines.join(u'\n'), QMessageBox::Ok, m_parent);
+    box->setIconPixmap(boxPicture(shown.icon));
     box->setTextFormat(Qt::PlainText);
     return box;
 }
@@ -61,8 +56,9 @@ void WindowBoxes::ask(const Question &question, std::function<void(Answer)> answ
         const bool cancel = question.choices == Question::Choices::YesNoCancel;
         const auto buttons =
             QMessageBox::Yes | QMessageBox::No | (cancel ? QMessageBox::Cancel : QMessageBox::NoButton);
-        auto *box = new QMessageBox(QMessageBox::Question, question.title, question.text, buttons, m_parent);
+        auto *box = new QMessageBox(QMessageBox::NoIcon, question.title, question.text, buttons, m_parent);
         box->setTextFormat(Qt::PlainText);
+        box->setIconPixmap(boxPicture(MessageIcon::Question));
         box->button(QMessageBox::Yes)->setText(caption(u"Sim", m_language()));
         box->button(QMessageBox::No)->setText(caption(u"Não", m_language()));
         if (cancel)

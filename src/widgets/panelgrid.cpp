@@ -24,6 +24,7 @@ using namespace Qt::StringLiterals;
 static constexpr int kRowHeight = 5 * Spacing::unit;
 
 static constexpr int kLeastColumn = 48;
+static constexpr int kCaptionPadding = 14;
 
 PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_rows(rows)
 {
@@ -40,6 +41,7 @@ PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_
     verticalHeader()->setDefaultSectionSize(kRowHeight);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultSectionSize(kLeastColumn);
+    connect(&rows, &PanelModel::modelReset, this, &PanelGrid::narrowColumns);
     connect(&rows, &PanelModel::shown, this, &PanelGrid::fitColumns);
 }
 
@@ -55,11 +57,20 @@ void PanelGrid::setEmptyText(const QString &text)
     viewport()->update();
 }
 
-/// A column grows with its texts and never shrinks under the user's hand.
+/// Other rails need other widths.
+void PanelGrid::narrowColumns()
+{
+    for (int column = 0; column < m_rows.columnCount(); ++column)
+        setColumnWidth(column, kLeastColumn);
+}
+
+/// A column grows with its texts and does not shrink under the user's hand while the same rails are shown.
 void PanelGrid::fitColumns()
 {
     for (int column = 0; column < m_rows.columnCount(); ++column) {
-        const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+        const QString above = m_rows.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int caption = horizontalHeader()->fontMetrics().horizontalAdvance(above) + kCaptionPadding;
+        const int wanted = std::max(sizeHintForColumn(column), caption);
         if (wanted > columnWidth(column))
             setColumnWidth(column, wanted);
     }

@@ -40,6 +40,7 @@ protected:
 
 private:
     void writeCsv(const QString &path);
+    void narrowColumns();
     void fitColumns();
 
     PanelModel &m_rows;

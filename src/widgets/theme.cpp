@@ -130,6 +130,7 @@ QProgressBar { min-height: 14px; max-height: 14px; border: 1px solid @border; bo
 QProgressBar::chunk { background: @accent; border-radius: 3px; }
 QStatusBar { border-top: 1px solid @border; }
 QStatusBar::item { border: none; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QMenu { padding: 4px; border: 1px solid @border; background: @surface; }
 QMenu::item { min-height: 24px; padding: 2px 24px 2px 8px; border-radius: 3px; }
 QMenu::item:selected { background: @accent; color: @onAccent; }

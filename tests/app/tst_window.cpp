@@ -1,0 +1,225 @@
+#include "connectionbar.h"
+#include "findingslist.h"
+#include "inicial.h"
+#include "moduletable.h"
+#include "panelgrid.h"
+#include "portresolver.h"
+#include "screenform.h"
+#include "seeds.h"
+#include "serialport.h"
+#include "windowboxes.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// A poll must be longer than the phone takes from the first byte to the prompt.
+constexpr Intervals kQuick{.validaPorta = 10ms, .fecha = 10ms, .poll = 200ms};
+
+/// The whole window over a store of its own; only what opens documents is left out.
+struct Bench
+{
+    Bench()
+    {
+        boxes.setParent(&window);
+        session.load();
+        window.show();
+        window.activateWindow();
+        shown = QTest::qWaitForWindowActive(&window);
+    }
+
+    template <typename T>
+    T *control(const QString &name) const
+    {
+        return window.findChild<T *>(name);
+    }
+    void click(const QString &name) const { QTest::mouseClick(control<QWidget>(name), Qt::LeftButton); }
+    void connectTo(const QString &address)
+    {
+        window.connectionBar().setPort(address);
+        click(u"Botoes(1)"_s);
+    }
+    QMessageBox *box() const { return window.findChild<QMessageBox *>(); }
+    QString front() const { return control<QTabWidget>(u"Abas"_s)->currentWidget()->objectName(); }
+
+    QTemporaryDir home;
+    QString path = made(home.filePath(u"Config.pmx"_s));
+    SerialPort port;
+    PortResolver resolver{0};
+    StoreQueue store{path, StoreQueue::Waiting::ByTimer};
+    WindowBoxes boxes{[this] { return session.language(); }};
+    Session session{{.port = port,
+                     .store = store,
+                     .boxes = boxes,
+                     .deviceFor = [this](const PortAddress &address) { return resolver.deviceFor(address); },
+                     .intervals = kQuick}};
+    Inicial window{session, [] { return QList<PortEntry>(); }};
+
+    bool shown = false;
+
+private:
+    static QString made(const QString &path) { return createStore(path) ? path : QString(); }
+};
+
+QString captionOf(const QWidget &widget)
+{
+    for (const char *property : {"text", "title"})
+        if (const QVariant shown = widget.property(property); shown.isValid() && !shown.toString().isEmpty())
+            return shown.toString();
+    return widget.accessibleName();
+}
+
+/// The named buttons, labels and boxes that say nothing, to the eye or to a reader.
+QStringList silentControls(const QWidget &window)
+{
+    // These speak only when there is something to say.
+    static const QStringList kMayBeSilent = {u"lbModelo"_s, u"lbBox"_s, u"St2"_s, u"lbDica"_s};
+    QStringList silent;
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        const bool speaks = qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget) ||
+                            qobject_cast<const QGroupBox *>(widget) || qobject_cast<const QComboBox *>(widget);
+        if (speaks && !name.isEmpty() && !name.startsWith("qt_"_L1) && !kMayBeSilent.contains(name) &&
+            captionOf(*widget).isEmpty())
+            silent.append(name);
+    }
+    return silent;
+}
+
+} // namespace
+
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void railAndKeysOpenEveryScreen();
+    void fieldsHaveControls();
+    void clicksReadABoard();
+    void languageReachesOpenForms_data();
+    void languageReachesOpenForms();
+    void missingPortIsTold();
+    void typingSurvivesNews();
+    void tabsCloseByKey();
+};
+
+void TestWindow::railAndKeysOpenEveryScreen()
+{
+    Bench bench;
+    for (const Module &module : modules()) {
+        const QString name = module.name;
+        bench.click(module.botao > 0 ? u"Botoes(%1)"_s.arg(module.botao) : u"bt"_s + name);
+        QCOMPARE(bench.front(), name);
+    }
+    for (const Module &module : modules()) {
+        const QKeyCombination keys = QKeySequence(QString(module.shortcut))[0];
+        QTest::keyClick(&bench.window, keys.key(), keys.keyboardModifiers());
+        QCOMPARE(bench.front(), QString(module.name));
+    }
+    QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), static_cast<int>(modules().size()));
+}
+
+void TestWindow::fieldsHaveControls()
+{
+    Bench bench;
+    for (const Module &module : modules())
+        bench.window.openScreen(module.name);
+    for (const ScreenForm *form : bench.window.findChildren<ScreenForm *>())
+        for (const QString &field : form->screen().panel().fields.keys())
+            QVERIFY2(form->findChild<QWidget *>(field), qPrintable(form->objectName() + u' ' + field));
+}
+
+void TestWindow::clicksReadABoard()
+{
+    Bench bench;
+    bench.connectTo(u"sim:IP 7,buck3=1200"_s);
+    QTRY_VERIFY(bench.session.isReady() && bench.session.isModelKnown());
+    QCOMPARE(bench.control<QLabel>(u"lbModelo"_s)->text(), u"IP 7"_s);
+    bench.click(u"Botoes(4)"_s);
+    bench.click(u"Botao4"_s);
+    const auto *form = bench.control<ScreenForm>(u"BuckLdo"_s);
+    QTRY_VERIFY(form->screen().hasReading());
+    QCOMPARE(form->screen().panel().verdict, Verdict::Fail);
+    QCOMPARE(bench.control<PanelGrid>(u"DBGrid1"_s)->model()->rowCount(),
+             static_cast<int>(form->screen().panel().rows.size()));
+    const auto *findings = bench.control<FindingsList>(u"ListaAchados"_s);
+    QCOMPARE(findings->model()->rowCount(), 1);
+    QVERIFY(findings->model()->index(0, 0).data().toString().contains("1.200 V"_L1));
+    QVERIFY(!bench.control<QLabel>(u"lbDica"_s)->isVisible());
+    bench.click(u"Botoes(1)"_s);
+    QVERIFY(bench.control<QLabel>(u"lbDica"_s)->isVisible()); // what is seen is the last reading
+    bench.connectTo(u"sim:IP 8"_s);
+    QTRY_COMPARE(findings->model()->rowCount(), 0); // they were another phone's
+}
+
+void TestWindow::languageReachesOpenForms_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("read");
+    QTest::newRow("Portuguese") << 1 << u"Executar Leitura  F5"_s;
+    QTest::newRow("English") << 2 << u"Run Read  F5"_s;
+    QTest::newRow("Spanish") << 3 << u"Ejecutar Lectura  F5"_s;
+}
+
+void TestWindow::languageReachesOpenForms()
+{
+    QFETCH(const int, language);
+    Bench bench;
+    for (const Module &module : modules())
+        bench.window.openScreen(module.name);
+    bench.window.Botoes_Click(10);
+    bench.click(u"btIdioma(%1)"_s.arg(language));
+    QTEST(bench.control<QPushButton>(u"Botao4"_s)->text(), "read");
+    QCOMPARE(silentControls(bench.window), QStringList());
+}
+
+void TestWindow::missingPortIsTold()
+{
+    Bench bench;
+    bench.connectTo(QString());
+    QVERIFY(bench.box());
+    QCOMPARE(bench.session.Status(), u"0"_s);
+    bench.box()->reject();
+    QTRY_VERIFY(!bench.box()); // the event loop went on: nothing waited for the answer
+    QVERIFY(bench.control<QPushButton>(u"Botoes(1)"_s)->isEnabled());
+}
+
+void TestWindow::typingSurvivesNews()
+{
+    Bench bench;
+    auto *field = bench.control<QComboBox>(u"cbPortas"_s)->lineEdit();
+    field->clear();
+    QTest::keyClicks(field, u"/dev/ttyUSB"_s);
+    emit bench.session.portsWanted();
+    emit bench.session.languageChanged();
+    emit bench.session.statusChanged();
+    QTest::keyClicks(field, u"3"_s);
+    QCOMPARE(field->text(), u"/dev/ttyUSB3"_s);
+}
+
+void TestWindow::tabsCloseByKey()
+{
+    Bench bench;
+    bench.window.openScreen(u"BuckLdo"_s);
+    bench.window.openScreen(u"PMU"_s);
+    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(bench.front(), u"BuckLdo"_s);
+    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
+    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier); // and with nothing left to close
+    QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), 0);
+}
+
+QTEST_MAIN(TestWindow)
+#include "tst_window.moc"
