@@ -1,0 +1,93 @@
+#include "visibletext.h"
+
+#include <QChar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char32_t kFirstPicture = 0x2400;
+constexpr char32_t kPictureOfDelete = 0x2421;
+constexpr QChar kPictureOfReturn = u'\u240D';
+constexpr char32_t kNoBreakSpace = 0xA0;
+
+bool isPlain(char32_t c)
+{
+    return (c >= 0x20 && c < 0x7F) || c == U'\t' || c == U'\n';
+}
+
+/// Marks that turn the direction, join, or mark the byte order; and what no font can show.
+bool isUnseen(char32_t c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return c == kNoBreakSpace;
+    }
+}
+
+QString byNumber(char32_t c)
+{
+    const QString digits = QString::number(c, 16).toUpper();
+    return c <= 0xFF ? u"\\x"_s + digits.rightJustified(2, u'0') : u"\\u"_s + digits.rightJustified(4, u'0');
+}
+
+QString spelledOut(char32_t c)
+{
+    if (c < 0x20)
+        return QString(QChar(static_cast<char16_t>(kFirstPicture + c)));
+    if (c == 0x7F)
+        return QString(QChar(static_cast<char16_t>(kPictureOfDelete)));
+    return isUnseen(c) ? byNumber(c) : QString::fromUcs4(&c, 1);
+}
+
+/// A run of carriage returns before a line feed is part of the line end: the console may have doubled them.
+qsizetype returnsAtStart(QStringView text)
+{
+    qsizetype count = 0;
+    while (count < text.size() && text[count] == u'\r')
+        ++count;
+    return count;
+}
+
+char32_t characterAt(QStringView text, qsizetype at)
+{
+    const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    return isPair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : text[at].unicode();
+}
+
+} // namespace
+
+QString visibleText(QStringView text)
+{
+    QString shown;
+    shown.reserve(text.size());
+    for (qsizetype at = 0; at < text.size();) {
+        const char32_t c = characterAt(text, at);
+        if (c == U'\r') {
+            const qsizetype returns = returnsAtStart(text.sliced(at));
+            at += returns;
+            if (at == text.size() || text[at] != u'\n')
+                shown += QString(returns, kPictureOfReturn);
+            continue;
+        }
+        if (isPlain(c))
+            shown += text[at];
+        else
+            shown += spelledOut(c);
+        at += QChar::requiresSurrogates(c) ? 2 : 1;
+    }
+    return shown;
+}
+
+QString visibleText(QByteArrayView bytes)
+{
+    return visibleText(QStringView(QString::fromLatin1(bytes)));
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+/// Text as it may be shown to a person: whatever would steer a terminal or hide in a line is spelled out instead.
+/// Control characters become their pictures (␀, ␛), other unseen ones are written by number (\x9B, \u202E); a line end
+/// of LF or CR LF is one line break, tabs stay. Text that is visible already stays as it is.
+QString visibleText(QStringView text);
+
+/// The same for bytes of the phone, each one character.
+QString visibleText(QByteArrayView bytes);
