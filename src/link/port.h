@@ -18,7 +18,8 @@ public:
     virtual void close() = 0;
     virtual bool isOpen() const = 0;
     virtual void write(const QByteArray &bytes) = 0;
-    /// Everything that has arrived since the last read; empty when nothing has.
+    /// Everything that has arrived since the last read; empty when nothing has. What nobody reads is kept up to some
+    /// megabytes, the newest.
     virtual QByteArray read() = 0;
     /// Drops what has arrived and was not read.
     virtual void discardInput() = 0;
@@ -26,7 +27,7 @@ public:
 signals:
     /// The line is gone and has been closed; sent once. What had arrived can still be read.
     void lost();
-    /// Bytes as they pass, for the exchange log.
+    /// Bytes as they pass, for the exchange log; also those that `discardInput` drops.
     void received(const QByteArray &bytes);
     void sent(const QByteArray &bytes);
 };

@@ -7,9 +7,9 @@
 struct PortEntry
 {
     int number = 0;
-    QString device; ///< path of the device
-    QString maker;
-    QString serialNumber;
+    QString device = {}; ///< path of the device
+    QString maker = {};
+    QString serialNumber = {};
 
     friend bool operator==(const PortEntry &, const PortEntry &) = default;
 };

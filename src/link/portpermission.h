@@ -9,6 +9,7 @@ struct DeviceGroup
 {
     QString name;
     bool joined = false; ///< the user is in it already, but this login began before
+    bool mayOpen = true; ///< the device lets the group in at all
 };
 
 /// The group that stands between the user and this device. Nothing when the user may open it, or where the system

@@ -15,6 +15,8 @@ bool isMember(uint groupId)
     const group *entry = ::getgrgid(groupId);
     if (!user || !entry)
         return false;
+    if (user->pw_gid == groupId)
+        return true;
     const std::string_view name = user->pw_name;
     for (char **member = entry->gr_mem; *member; ++member) {
         if (name == *member)
@@ -28,7 +30,8 @@ bool isMember(uint groupId)
 std::optional<DeviceGroup> groupMissingFor(const QString &device)
 {
     const QFileInfo node(device);
-    if (node.isReadable() && node.isWritable())
+    if (!node.exists() || (node.isReadable() && node.isWritable()))
         return std::nullopt;
-    return DeviceGroup{node.group(), isMember(node.groupId())};
+    const bool mayOpen = node.permission(QFile::ReadGroup | QFile::WriteGroup);
+    return DeviceGroup{node.group(), isMember(node.groupId()), mayOpen};
 }

@@ -16,10 +16,11 @@ struct Speed
 Speed speedFor(const QString &setting, const Speed &current);
 
 /// How a reply ends.
-enum class EndOfReply {
-    Prompt,      ///< with the prompt in the newest chunk
+enum class EndOfReply
+{
+    Prompt,       ///< with the prompt in the newest chunk
     PromptAtOnce, ///< likewise, already on the first poll
-    Silence,     ///< with a pause after some polls; the prompt is not looked for (the battery's long reply)
+    Silence,      ///< with a pause after some polls; the prompt is not looked for (the battery's long reply)
 };
 
 /// A reply on its way: the polls so far and the chunk to add to the console.

@@ -1,11 +1,14 @@
 #include "serialport.h"
 
 #include "hangup.h"
+#include "lineinput.h"
 #include "openerror.h"
 
 #include <QFileInfo>
 
 namespace {
+
+constexpr qsizetype kMostUnread = 4 << 20; // far more than a line of this speed brings between two reads
 
 /// Two names of one device would not exclude each other, so a line is only ever opened by its one true path.
 QString trueName(const QString &device)
@@ -35,14 +38,20 @@ Result<Done> SerialPort::open(const QString &device)
     m_secondTry = false;
     if (isOrdinaryFile(device))
         return notAPort(device);
-    m_line.setPortName(trueName(device));
-    if (!openLine())
-        return openError(device, m_line.error());
-    m_line.clear(); // bytes from before belong to nobody's command
+    const QString name = trueName(device);
+    if (!m_lock.take(name))
+        return openError(device, QSerialPort::PermissionError);
+    m_line.setPortName(name);
+    const QSerialPort::SerialPortError error = openLine();
+    if (error != QSerialPort::NoError) {
+        m_lock.release(); // before the holder is looked for, who is not we
+        return openError(device, error);
+    }
+    discardInput(); // bytes from before belong to nobody's command
     return Done{};
 }
 
-bool SerialPort::openLine()
+QSerialPort::SerialPortError SerialPort::openLine()
 {
     m_line.setBaudRate(QSerialPort::Baud115200);
     m_line.setDataBits(QSerialPort::Data8);
@@ -50,16 +59,23 @@ bool SerialPort::openLine()
     m_line.setStopBits(QSerialPort::OneStop);
     m_line.setFlowControl(QSerialPort::NoFlowControl);
     if (!m_line.open(QIODevice::ReadWrite))
-        return false;
+        return m_line.error();
+    if (!claim(m_line)) {
+        m_line.close();
+        return QSerialPort::PermissionError;
+    }
     m_line.setDataTerminalReady(true); // a pseudo-terminal has neither line and refuses, which does no harm
     m_line.setRequestToSend(true);
-    return true;
+    return QSerialPort::NoError;
 }
 
 void SerialPort::close()
 {
-    if (m_line.isOpen())
-        m_line.close();
+    if (!m_line.isOpen())
+        return;
+    arrive(takeInput(m_line));
+    m_line.close();
+    m_lock.release();
 }
 
 bool SerialPort::isOpen() const
@@ -80,20 +96,29 @@ QByteArray SerialPort::read()
     return std::exchange(m_arrived, {});
 }
 
+/// Also what nobody wants has passed, so it is told before it is dropped.
 void SerialPort::discardInput()
 {
+    if (m_line.isOpen()) {
+        keepWhatArrived();
+        arrive(takeInput(m_line));
+    }
     m_arrived.clear();
-    if (m_line.isOpen())
-        m_line.clear(QSerialPort::Input);
 }
 
 void SerialPort::keepWhatArrived()
 {
-    const QByteArray bytes = m_line.readAll();
+    arrive(m_line.read(m_line.bytesAvailable())); // readAll() would keep four times the memory of a short chunk
+}
+
+void SerialPort::arrive(const QByteArray &bytes)
+{
     if (bytes.isEmpty())
         return;
     m_secondTry = false;
     m_arrived += bytes;
+    if (m_arrived.size() > kMostUnread)
+        m_arrived = m_arrived.last(kMostUnread / 2);
     emit received(bytes);
 }
 
@@ -106,12 +131,14 @@ void SerialPort::examine(QSerialPort::SerialPortError error)
     keepWhatArrived();
     const bool gone = hasHungUp(m_line);
     m_line.close();
-    if (gone || !reopened())
-        emit lost();
+    if (!gone && reopened())
+        return;
+    m_lock.release();
+    emit lost();
 }
 
 /// One new try until bytes come again: a line that only ever fails is as good as lost.
 bool SerialPort::reopened()
 {
-    return !std::exchange(m_secondTry, true) && openLine();
+    return !std::exchange(m_secondTry, true) && openLine() == QSerialPort::NoError;
 }

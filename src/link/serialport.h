@@ -1,6 +1,7 @@
 #pragma once
 
 #include "port.h"
+#include "portlock.h"
 
 #include <QSerialPort>
 
@@ -20,12 +21,14 @@ public:
     void discardInput() override;
 
 private:
-    bool openLine();
+    QSerialPort::SerialPortError openLine();
     void keepWhatArrived();
+    void arrive(const QByteArray &bytes);
     void examine(QSerialPort::SerialPortError error);
     bool reopened();
 
+    PortLock m_lock; // before the line, so that it ends after it
     QSerialPort m_line;
-    QByteArray m_arrived; // outlives the line: what came before a loss is still read
+    QByteArray m_arrived; // what came before a loss is still read
     bool m_secondTry = false;
 };

@@ -1,5 +1,6 @@
 #include "portresolver.h"
 
+#include "openerror.h"
 #include "portlist.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ static Result<QString> deviceOfNumber(int number)
     const auto found = std::ranges::find(ports, number, &PortEntry::number);
     if (found != ports.end())
         return found->device;
-    return Trouble{{u"MSG_PORTA_INVALIDA"_s, {QString::number(number)}}, {{u"REMEDY_NO_PORT"_s}}};
+    return noSuchPort(QString::number(number));
 }
 
 Result<QString> PortResolver::deviceFor(const PortAddress &address)

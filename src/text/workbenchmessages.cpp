@@ -55,6 +55,38 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      Information,
      {u"Feche o programa que está usando %1 e tente novamente.", u"Close the program that holds %1 and try again.",
       u"Cierre el programa que está usando %1 e inténtelo de nuevo."}},
+    // %1 the device, %2 the program, %3 its process number
+    {u"REMEDY_HELD_BY",
+     Information,
+     {u"%1 está em uso por %2 (processo %3). Feche esse programa e tente novamente.",
+      u"%1 is held by %2 (process %3). Close that program and try again.",
+      u"%1 está en uso por %2 (proceso %3). Cierre ese programa e inténtelo de nuevo."}},
+    {u"REMEDY_ORPHANED_LOCK",
+     Information,
+     {u"Um programa que já terminou deixou um bloqueio: apague-o (sudo rm %1) e tente novamente.",
+      u"A program that has ended left a lock behind: delete it (sudo rm %1) and try again.",
+      u"Un programa que ya terminó dejó un bloqueo: bórrelo (sudo rm %1) e inténtelo de nuevo."}},
+    {u"REMEDY_DEVICE_RIGHTS",
+     Information,
+     {u"Só o dono pode usar %1: libere o acesso (sudo chmod a+rw %1) e tente novamente.",
+      u"Only its owner may use %1: give access (sudo chmod a+rw %1) and try again.",
+      u"Solo el propietario puede usar %1: habilite el acceso (sudo chmod a+rw %1) e inténtelo de nuevo."}},
+    {u"REMEDY_MODEMMANAGER",
+     Information,
+     {u"O ModemManager testa adaptadores USB por até meio minuto: aguarde, ou desative-o "
+      u"(sudo systemctl disable --now ModemManager).",
+      u"ModemManager probes USB adapters for up to half a minute: wait, or switch it off "
+      u"(sudo systemctl disable --now ModemManager).",
+      u"ModemManager prueba los adaptadores USB durante medio minuto como máximo: espere o desactívelo "
+      u"(sudo systemctl disable --now ModemManager)."}},
+    {u"REMEDY_BRLTTY",
+     Information,
+     {u"O brltty (linhas Braille) toma adaptadores USB para si. Se não usa Braille, remova-o "
+      u"(sudo apt remove brltty) e reconecte a Box.",
+      u"brltty (Braille displays) takes USB adapters for itself. If you use no Braille display, remove it "
+      u"(sudo apt remove brltty) and plug the Box in again.",
+      u"brltty (líneas Braille) se apodera de los adaptadores USB. Si no usa Braille, quítelo "
+      u"(sudo apt remove brltty) y vuelva a conectar la Box."}},
     {u"REMEDY_NOT_A_PORT",
      Information,
      {u"%1 não é uma porta serial. Escolha a porta da Box.", u"%1 is no serial port. Choose the port of the Box.",

@@ -2,9 +2,7 @@
 #include "simulatedphone.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -62,7 +60,6 @@ private slots:
     void aNewPhoneOpensAfterALoss();
     void closedByUsIsNoLoss();
     void oldBytesAreDiscarded();
-    void inUseByAnother();
 };
 
 void TestLine::replyComesUnchanged_data()
@@ -202,25 +199,6 @@ void TestLine::oldBytesAreDiscarded()
     QVERIFY(bench.receives(49));
     bench.port.discardInput();
     QVERIFY(bench.port.read().isEmpty());
-}
-
-void TestLine::inUseByAnother()
-{
-    Bench bench(u"IP 7"_s);
-    const QTemporaryDir folder;
-    const QString otherName = folder.filePath(u"box"_s);
-    QVERIFY(QFile::link(bench.phone.device(), otherName));
-    for (const QString &device : {bench.phone.device(), otherName}) {
-        SerialPort second;
-        const Result<Done> opened = second.open(device);
-        QVERIFY(!opened);
-        QVERIFY(!second.isOpen());
-        QCOMPARE(opened.trouble().what, (Notice{u"MSG_PORTA_EM_USO"_s, {device}}));
-        QCOMPARE(opened.trouble().remedies.value(0).key, u"REMEDY_IN_USE"_s);
-    }
-    bench.port.close();
-    SerialPort second;
-    QVERIFY(second.open(otherName));
 }
 
 QTEST_GUILESS_MAIN(TestLine)

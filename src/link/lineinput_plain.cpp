@@ -1,0 +1,7 @@
+#include "lineinput.h"
+
+QByteArray takeInput(QSerialPort &line)
+{
+    line.clear(QSerialPort::Input);
+    return {};
+}
