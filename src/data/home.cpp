@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QOperatingSystemVersion>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -21,4 +22,15 @@ QString homeFolder(const QString &given)
 QString configStore(const QString &home)
 {
     return QDir(home).filePath(u"Config.pmx"_s);
+}
+
+QString stateFolder()
+{
+    const QString given = qEnvironmentVariable("XDG_STATE_HOME");
+    if (QDir::isAbsolutePath(given)) // a relative one is to be ignored
+        return QDir::cleanPath(given) + u"/tavimo-prelt"_s;
+    const auto system = QOperatingSystemVersion::currentType();
+    if (system == QOperatingSystemVersion::Windows || system == QOperatingSystemVersion::MacOS)
+        return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/tavimo-prelt/state"_s;
+    return QDir::homePath() + u"/.local/state/tavimo-prelt"_s;
 }

@@ -8,3 +8,6 @@ QString homeFolder(const QString &given = {});
 
 /// The reference store in a folder.
 QString configStore(const QString &home);
+
+/// The user's folder for what the program keeps by itself: the exchange log, the window's layout.
+QString stateFolder();

@@ -135,6 +135,14 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      {u"Conexão perdida: a porta desapareceu. Verifique o cabo da Box e conecte novamente.",
       u"Link lost: the port is gone. Check the cable of the Box and connect again.",
       u"Conexión perdida: el puerto desapareció. Verifique el cable de la Box y conecte de nuevo."}},
+    // Exchange log: %1 the file, %2 the reason as the system words it
+    {u"LOG_NOT_WRITTEN",
+     Information,
+     {u"O registro da comunicação não pôde ser gravado: %1\nLibere espaço ou dê permissão de escrita. A sessão "
+      u"continua.\n%2",
+      u"The exchange log could not be written: %1\nFree some space or give write permission. The session goes on.\n%2",
+      u"No se pudo guardar el registro de la comunicación: %1\nLibere espacio o dé permiso de escritura. La sesión "
+      u"continúa.\n%2"}},
     // As the grid of rails has always said it: the index runs straight into the word, and a blank ends it.
     {u"UNKNOWN_INDEX", None, {u"%1NOT ", u"%1NOT ", u"%1NOT "}},
 
