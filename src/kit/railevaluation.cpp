@@ -1,6 +1,8 @@
 #include "railevaluation.h"
 
+#include "models.h"
 #include "numbertext.h"
+#include "railorder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,16 +11,11 @@ using namespace Qt::StringLiterals;
 
 static constexpr auto kNeverMeasured = "*"_L1;
 
-static bool hidesFirstCore(const QString &model)
-{
-    return model.startsWith("IP 8"_L1) || model.startsWith("IP X"_L1);
-}
-
 static bool isNeverMeasured(const QString &model, const RailRow &row, const RailRules &rules)
 {
     const QString orig = withoutBlanks(row.orig);
     const QString key = rules.firstCoreKey == RailRules::Key::Orig ? orig : withoutBlanks(row.malha);
-    if (hidesFirstCore(model) && key == rules.firstCore)
+    if (isNewestGeneration(model) && key == rules.firstCore)
         return true;
     return std::ranges::find(rules.never, orig) != rules.never.end() || (rules.skipsCamera && row.ci == "CAM"_L1);
 }
@@ -103,6 +100,8 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
     EvaluatedRail rail{row};
     rail.row.leitura.clear();
     rail.row.porc.clear();
+    if (hasReference(row))
+        rail.rule = context.rule;
     if (row.refT.isEmpty())
         return rail;
     if (isNeverMeasured(context.model, row, rules)) {
@@ -118,22 +117,15 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
     compare(rail, value);
     const bool noMeasure = isMeasured(value) && !rail.deviation; // a nominal of zero: nothing to divide by
     if (hasReference(row) && !noMeasure)
-        rail.verdict = judged(rail.deviation, Rule::tenPercent());
+        rail.verdict = judged(rail.deviation, context.rule);
     return rail;
 }
 
-/// How far up a rail belongs: one with a reading but no deviation stands below the others, one without a reading last.
-static double distance(const EvaluatedRail &rail)
+QList<EvaluatedRail> sorted(QList<EvaluatedRail> rails, RailOrder order)
 {
-    const RailRow &row = rail.row;
-    if (row.leitura.isEmpty() || row.leitura.endsWith(kNeverMeasured))
-        return -2.0;
-    return row.porc.isEmpty() ? -1.0 : std::abs(leadingNumber(row.porc));
-}
-
-QList<EvaluatedRail> byDeviation(QList<EvaluatedRail> rails)
-{
-    std::ranges::stable_sort(rails, std::ranges::greater(), distance);
+    std::ranges::stable_sort(rails, [order](const EvaluatedRail &left, const EvaluatedRail &right) {
+        return precedes(left.row, right.row, order);
+    });
     return rails;
 }
 
@@ -155,16 +147,17 @@ static Row gridRow(const EvaluatedRail &rail)
              {u"G2"_s, row.g[1]},
              {u"G3"_s, row.g[2]}},
             rail.deviation,
-            hasReference(row) ? std::optional(Rule::tenPercent()) : std::nullopt,
+            rail.rule,
             rail.verdict,
-            row.source};
+            row.source,
+            row.confidence};
 }
 
 static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
 {
     const RailRow &row = rail.row;
     return {row.malha,          row.leitura,  row.refV, row.source, rail.deviation,
-            Rule::tenPercent(), rail.verdict, screen,   rail.line};
+            rail.rule, rail.verdict, screen,   rail.line};
 }
 
 void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut)

@@ -37,6 +37,7 @@ Inicial::Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWid
       m_connectionBar(new ConnectionBar(session)),
       m_rail(new ModuleRail),
       m_tabs(new QTabWidget),
+      m_middle(new QHBoxLayout),
       m_emptyHint(new QLabel),
       m_findings(new FindingsPanel),
       m_findingsButton(new QToolButton),
@@ -93,18 +94,18 @@ QWidget *Inicial::content()
     m_tabs->tabBar()->installEventFilter(this);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_findings->setFixedWidth(kFindingsWidth);
-    auto *middle = new QHBoxLayout;
-    middle->setSpacing(0);
-    middle->addWidget(m_rail);
-    middle->addWidget(m_emptyHint, 1);
-    middle->addWidget(m_tabs, 1);
-    middle->addWidget(m_findings);
+    m_findings->setAutoFillBackground(true);
+    m_middle->setSpacing(0);
+    m_middle->addWidget(m_rail);
+    m_middle->addWidget(m_emptyHint, 1);
+    m_middle->addWidget(m_tabs, 1);
+    m_middle->addWidget(m_findings);
     auto *frame = new QWidget;
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(topRow());
-    layout->addLayout(middle, 1);
+    layout->addLayout(m_middle, 1);
     return frame;
 }
 
@@ -289,11 +290,24 @@ void Inicial::paintFindings()
     m_findingsButton->setToolTip(shown + "  (F3)"_L1);
 }
 
+/// In a small window the list lies over the screen, which keeps its width.
+void Inicial::layFindingsOver()
+{
+    m_middle->removeWidget(m_findings);
+    const QSize room = centralWidget()->size();
+    m_findings->setGeometry(room.width() - kFindingsWidth, m_rail->y(), kFindingsWidth, room.height() - m_rail->y());
+    m_findings->raise();
+}
+
 void Inicial::foldFindings()
 {
     const bool wide = width() >= kFindingsFrom;
     m_findingsButton->setVisible(!wide);
     m_findings->setVisible(wide || m_findingsOpened);
+    if (wide)
+        m_middle->addWidget(m_findings);
+    else
+        layFindingsOver();
 }
 
 bool Inicial::eventFilter(QObject *watched, QEvent *event)

@@ -12,6 +12,7 @@
 class ConnectionBar;
 class FindingsPanel;
 class ModuleRail;
+class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QProgressBar;
@@ -60,6 +61,7 @@ private:
     void paintTabs();
     void paintFindings();
     void foldFindings();
+    void layFindingsOver();
     void closeTab(int index);
     void retheme(ThemeChoice choice);
     QString text(QStringView key) const;
@@ -69,6 +71,7 @@ private:
     ConnectionBar *m_connectionBar;
     ModuleRail *m_rail;
     QTabWidget *m_tabs;
+    QHBoxLayout *m_middle;
     QLabel *m_emptyHint;
     FindingsPanel *m_findings;
     QToolButton *m_findingsButton;
