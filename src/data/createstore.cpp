@@ -1,4 +1,5 @@
 #include "csv.h"
+#include "intoplace.h"
 #include "queries.h"
 #include "seeds.h"
 #include "store.h"
@@ -7,8 +8,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -74,29 +73,6 @@ Result<Done> build(const QString &emptyFile)
     return transaction->commit();
 }
 
-Trouble existing(const QString &path)
-{
-    return storeTrouble(u"STORE_EXISTS"_s, path, u"there is a file already"_s);
-}
-
-// A second name for the finished file is the one move that cannot overwrite; where the disk knows no such names, a
-// careful renaming has to do.
-Result<Done> moveIntoPlace(QTemporaryFile &made, const QString &path)
-{
-    const std::filesystem::path from = QFileInfo(made.fileName()).filesystemAbsoluteFilePath();
-    const std::filesystem::path to = QFileInfo(path).filesystemAbsoluteFilePath();
-    std::error_code error;
-    std::filesystem::create_hard_link(from, to, error);
-    if (!error)
-        return Done{};
-    if (error == std::errc::file_exists)
-        return existing(path);
-    QFile file(made.fileName());
-    if (!file.rename(path))
-        return storeTrouble(u"STORE_FAILED"_s, path, file.errorString());
-    return Done{};
-}
-
 constexpr QFile::Permissions kForAllToRead = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
 
 } // namespace
@@ -105,7 +81,7 @@ Result<Done> createStore(const QString &path)
 {
     const QFileInfo target(path);
     if (target.exists() || target.isSymLink())
-        return existing(path);
+        return storeTrouble(u"STORE_EXISTS"_s, path, {});
     QDir().mkpath(target.absolutePath());
     // Beside the target, to be on the same disk; removed when this function ends.
     QTemporaryFile made(target.absoluteFilePath() + u".XXXXXX"_s);
@@ -115,6 +91,6 @@ Result<Done> createStore(const QString &path)
     const QString name = made.fileName();
     made.close();
     if (const Result<Done> built = build(name); !built)
-        return storeTrouble(built.trouble().what.key, path, built.trouble().what.arguments.value(1));
-    return moveIntoPlace(made, path);
+        return toldOf(path, built.trouble());
+    return moveIntoPlace(name, path);
 }

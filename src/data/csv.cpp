@@ -1,5 +1,9 @@
 #include "csv.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CsvReader
@@ -64,6 +68,20 @@ private:
     QStringView m_rest;
 };
 
+QString guarded(const QString &value)
+{
+    static constexpr QStringView kActing = u"=+-@\uff1d\uff0b\uff0d\uff20\t\r\n'";
+    return !value.isEmpty() && kActing.contains(value.front()) ? u'\'' + value : value;
+}
+
+QString written(const QString &value)
+{
+    QString cell = guarded(value);
+    const bool plain =
+        std::ranges::none_of(cell, [](QChar letter) { return QStringView(u",;\t\r\n\x22").contains(letter); });
+    return plain ? cell : u'"' + cell.replace(u'"', "\"\""_L1) + u'"';
+}
+
 } // namespace
 
 std::optional<QList<QStringList>> csvRecords(QStringView text)
@@ -76,4 +94,21 @@ std::optional<QList<QStringList>> csvRecords(QStringView text)
         records += *record;
     }
     return records;
+}
+
+QString csvText(const QList<QStringList> &records)
+{
+    QString text;
+    for (const QStringList &record : records) {
+        QStringList cells;
+        for (const QString &value : record)
+            cells += written(value);
+        text += cells.join(u',') + "\r\n"_L1;
+    }
+    return text;
+}
+
+QString unguarded(const QString &cell)
+{
+    return cell.startsWith(u'\'') ? cell.mid(1) : cell;
 }

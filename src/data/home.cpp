@@ -34,3 +34,8 @@ QString stateFolder()
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/tavimo-prelt/state"_s;
     return QDir::homePath() + u"/.local/state/tavimo-prelt"_s;
 }
+
+QString userStore(const QString &home)
+{
+    return QDir(home).filePath(u"User.pmx"_s);
+}

@@ -11,3 +11,6 @@ QString configStore(const QString &home);
 
 /// The user's folder for what the program keeps by itself: the exchange log, the window's layout.
 QString stateFolder();
+
+/// The user store of an earlier version beside it.
+QString userStore(const QString &home);

@@ -44,3 +44,8 @@ QString modelForNumber(const QString &number)
             return row.model;
     return {};
 }
+
+bool isNewestGeneration(const QString &model)
+{
+    return model.startsWith("IP 8"_L1) || model.startsWith("IP X"_L1);
+}

@@ -8,3 +8,6 @@ const QStringList &modelNames();
 
 /// The model of a regulatory number ("A1660"). Exact and case-sensitive; empty when the number is not known.
 QString modelForNumber(const QString &number);
+
+/// The generation from the IP 8 on: another port controller, and a processor current that is not shown.
+bool isNewestGeneration(const QString &model);

@@ -23,6 +23,20 @@ std::span<const Query *const> queryCatalogue();
 
 inline constexpr Query kHasMaster{"HasMaster",
     "Select 1 from sqlite_master Where type = 'table' and name = 'Master' collate nocase"};
+// What no store of this program holds: code that runs by itself, and tables that are no tables.
+inline constexpr Query kStrangeObject{"StrangeObject",
+    "Select type, name from sqlite_master Where type in ('trigger', 'view') or sql like 'create virtual%' "
+    "or sql like '%without%rowid%' limit 1"};
+inline constexpr Query kStoreIds{"StoreIds",
+    "Select application_id, user_version from pragma_application_id, pragma_user_version"};
+inline constexpr Query kColumnsOfTables{"ColumnsOfTables",
+    "Select m.name as TableName, c.name as ColumnName, c.type as Type, c.hidden as Hidden "
+    "from sqlite_master m join pragma_table_xinfo(m.name) c Where m.type = 'table'"};
+inline constexpr Query kHasTable{"HasTable",
+    "Select 1 from sqlite_master Where type = 'table' and name = :table collate nocase"};
+inline constexpr Query kIntegrity{"Integrity", "PRAGMA integrity_check(20)"};
+// A copy without a moment at which it was half: it is read in one go, tree by tree, so damage shows here too.
+inline constexpr Query kCopyInto{"CopyInto", "VACUUM INTO :file"};
 
 // Rails. Rows that an order leaves equal come in the order in which they were stored.
 inline constexpr Query kMaster{"Master",
@@ -70,6 +84,11 @@ inline constexpr Query kWriteReading{"WriteReading",
 inline constexpr Query kWriteG1{"WriteG1", "Update Master set G1 = :text Where rowid = :id"};
 inline constexpr Query kWriteG2{"WriteG2", "Update Master set G2 = :text Where rowid = :id"};
 inline constexpr Query kWriteG3{"WriteG3", "Update Master set G3 = :text Where rowid = :id"};
+// The rail that a row of another store means: of its kind and output, else the first one on its net.
+inline constexpr Query kRailMeant{"RailMeant",
+    "Select rowid from Master Where Modelo = :model and Malha = :net "
+    "order by (TIPO = :kind and Orig = :output) desc, rowid limit 1"};
+inline constexpr Query kWriteSlots{"WriteSlots", "Update Master set G1 = :G1, G2 = :G2, G3 = :G3 Where rowid = :id"};
 
 // Radio references and expected devices.
 inline constexpr Query kRfRows{"RfRows",
@@ -92,6 +111,29 @@ inline constexpr Query kNoRecording{"NoRecording",
     "Select rowid, * From Dados where Aparelho = 'xx'"};
 inline constexpr Query kNoRecordingOfCommand{"NoRecordingOfCommand",
     "Select rowid, * From Dados where Aparelho = 'xxxxx' and Comando = 'xxxxxxxx'"};
+// Of two rows of one pair, which no writer here makes, the one that holds something is the recording.
+inline constexpr Query kRecordingMeant{"RecordingMeant",
+    "Select rowid, *, cast(Dados as blob) as Bytes from Dados Where Aparelho = :model and Comando = :command "
+    "order by Dados = '', rowid limit 1"};
+inline constexpr Query kRecordingsWithBytes{"RecordingsWithBytes",
+    "Select *, cast(Dados as blob) as Bytes from Dados order by rowid"};
+inline constexpr Query kAddRecording{"AddRecording",
+    "Insert into Dados (Aparelho, Comando, Dados, Info, Info2, Info3) "
+    "values (:model, :command, :Dados, :Info, :Info2, :Info3)"};
+inline constexpr Query kWriteRecording{"WriteRecording",
+    "Update Dados set Dados = :Dados, Info = :Info, Info2 = :Info2, Info3 = :Info3 Where rowid = :id"};
+inline constexpr Query kDeleteRecording{"DeleteRecording",
+    "Delete from Dados Where Aparelho = :model and Comando = :command"};
+inline constexpr Query kRepeatedRecordings{"RepeatedRecordings",
+    "Select Aparelho, Comando, count(*) from Dados group by Aparelho, Comando having count(*) > 1"};
+inline constexpr Query kHash{"Hash",
+    "Select Aparelho, Comando, Sha256 from RecordingHash Where Aparelho = :model and Comando = :command"};
+inline constexpr Query kHashes{"Hashes", "Select Aparelho, Comando, Sha256 from RecordingHash"};
+inline constexpr Query kSetHash{"SetHash",
+    "Insert into RecordingHash (Aparelho, Comando, Sha256) values (:model, :command, :hash) "
+    "on conflict (Aparelho, Comando) do update set Sha256 = excluded.Sha256"};
+inline constexpr Query kDeleteHash{"DeleteHash",
+    "Delete from RecordingHash Where Aparelho = :model and Comando = :command"};
 inline constexpr Query kMasks{"Masks",
     "Select * from M"};
 inline constexpr Query kMasksDescending{"MasksDescending",
@@ -110,6 +152,11 @@ inline constexpr Query kSetCombo[] = {
     {"SetCombo7", "Update Combos set Combo7 = :value"},
 };
 inline constexpr Query kSetIdioma{"SetIdioma", "Update Tools set Idioma = :value"};
+inline constexpr Query kSetNome{"SetNome", "Update Tools set Nome = :value"};
+inline constexpr Query kSetSyncbd{"SetSyncbd", "Update Tools set syncbd = :value"};
+inline constexpr Query kSetAllCombos{"SetAllCombos",
+    "Update Combos set Combo1 = :Combo1, Combo2 = :Combo2, Combo3 = :Combo3, Combo4 = :Combo4, Combo5 = :Combo5, "
+    "Combo6 = :Combo6, Combo7 = :Combo7, Combo8 = :Combo8, Combo9 = :Combo9, Combo10 = :Combo10"};
 inline constexpr Query kSetUltimo{"SetUltimo",
     "Update Ultimo set Modelo = :value Where rowid = (Select min(rowid) from Ultimo)"};
 inline constexpr Query kAddEmptyCombos{"AddEmptyCombos", "Insert into Combos default values"};

@@ -77,10 +77,14 @@ int compareAsStore(const QString &left, const QString &right)
     return left.toUtf8().toLower().compare(right.toUtf8().toLower());
 }
 
+bool precedes(const RailRow &left, const RailRow &right, RailOrder order)
+{
+    return isBefore(*std::ranges::find(kOrders, order, &Order::order), left, right);
+}
+
 QList<RailRow> sorted(QList<RailRow> rows, RailOrder order)
 {
-    const Order &row = *std::ranges::find(kOrders, order, &Order::order);
-    std::ranges::stable_sort(rows,
-                             [&row](const RailRow &left, const RailRow &right) { return isBefore(row, left, right); });
+    std::ranges::stable_sort(
+        rows, [order](const RailRow &left, const RailRow &right) { return precedes(left, right, order); });
     return rows;
 }

@@ -1,19 +1,10 @@
 #include "schema.h"
 
-#include <QLatin1StringView>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Table
-{
-    QLatin1StringView name;
-    QLatin1StringView columns;
-    QLatin1StringView key = {};
-};
-
-constexpr Table kTables[] = {
+constexpr SchemaTable kTables[] = {
     {"Master"_L1, "Modelo TIPO Orig Malha Ci RefT RefV REF Leitura PORC G1 G2 G3"_L1},
     {"Rf"_L1, "Modelo Malha Componente Valor Tipo"_L1},
     {"i"_L1, "Aparelho i"_L1},
@@ -23,34 +14,55 @@ constexpr Table kTables[] = {
     {"Combos"_L1, "Combo1 Combo2 Combo3 Combo4 Combo5 Combo6 Combo7 Combo8 Combo9 Combo10"_L1},
     {"Tools"_L1, "Idioma Nome syncbd"_L1},
     {"Ultimo"_L1, "Modelo"_L1},
-    {"RailSources"_L1, "Modelo TIPO Orig Confidence Source"_L1, "Modelo, TIPO, Orig"_L1},
-    {"Settings"_L1, "Name Value"_L1, "Name"_L1},
+    {"RailSources"_L1, "Modelo TIPO Orig Confidence Source"_L1, "Modelo, TIPO, Orig"_L1, SchemaTable::Origin::Added},
+    {"Settings"_L1, "Name Value"_L1, "Name"_L1, SchemaTable::Origin::Added},
+    {"RecordingHash"_L1, "Aparelho Comando Sha256"_L1, "Aparelho, Comando"_L1, SchemaTable::Origin::Added},
 };
+
+} // namespace
+
+bool isNumberColumn(QStringView column)
+{
+    return column == "TIPO"_L1;
+}
+
+namespace {
 
 // Texts are never null, so that `<> ''` finds what is filled; they compare, match and sort without regard to the case
 // of the letters A to Z. "TIPO" in capitals is the kind of a rail, the only number.
 QString columnStatement(const QString &name)
 {
-    const bool number = name == "TIPO"_L1;
+    const bool number = isNumberColumn(name);
     return name + (number ? " integer not null default 0"_L1 : " text collate nocase not null default ''"_L1);
-}
-
-QString tableStatement(const Table &table)
-{
-    QStringList parts;
-    for (const QString &name : QString(table.columns).split(u' '))
-        parts += columnStatement(name);
-    if (!table.key.isEmpty())
-        parts += u"primary key (%1)"_s.arg(table.key);
-    return u"create table %1 (%2)"_s.arg(table.name, parts.join(u", "_s));
 }
 
 } // namespace
 
+std::span<const SchemaTable> schemaTables()
+{
+    return kTables;
+}
+
+QStringList columnsOf(const SchemaTable &table)
+{
+    return QString(table.columns).split(u' ');
+}
+
+QString tableStatement(const SchemaTable &table)
+{
+    QStringList parts;
+    for (const QString &name : columnsOf(table))
+        parts += columnStatement(name);
+    if (!table.key.isEmpty())
+        parts += u"primary key (%1)"_s.arg(table.key);
+    return u"create table if not exists %1 (%2)"_s.arg(table.name, parts.join(u", "_s));
+}
+
 QStringList schemaStatements()
 {
-    QStringList statements;
-    for (const Table &table : kTables)
+    QStringList statements{u"PRAGMA application_id=%1"_s.arg(kApplicationId),
+                           u"PRAGMA user_version=%1"_s.arg(kSchemaVersion)};
+    for (const SchemaTable &table : kTables)
         statements += tableStatement(table);
     return statements;
 }

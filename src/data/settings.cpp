@@ -73,6 +73,16 @@ Result<Done> setLanguage(Store &store, Language language)
     return setOnlyRow(store, kSetIdioma, kAddEmptyTools, QString::number(static_cast<int>(language)));
 }
 
+Result<QString> technicianName(const Store &store)
+{
+    return orEmpty(firstText(store, kNome, u"Nome"_s));
+}
+
+Result<Done> setTechnicianName(Store &store, const QString &name)
+{
+    return setOnlyRow(store, kSetNome, kAddEmptyTools, name);
+}
+
 Result<QString> lastModel(const Store &store)
 {
     return orEmpty(firstText(store, kUltimo, u"Modelo"_s));

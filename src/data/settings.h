@@ -22,6 +22,10 @@ Result<Done> setCombo(Store &store, Combo which, const QString &value);
 Result<Language> language(const Store &store);
 Result<Done> setLanguage(Store &store, Language language);
 
+/// The technician's or company name for reports, or empty.
+Result<QString> technicianName(const Store &store);
+Result<Done> setTechnicianName(Store &store, const QString &name);
+
 /// The last model chosen, or empty.
 Result<QString> lastModel(const Store &store);
 Result<Done> rememberModel(Store &store, const QString &model);

@@ -2,6 +2,7 @@
 
 #include "queries.h"
 #include "schema.h"
+#include "schemacheck.h"
 #include "storefile.h"
 #include "storetrouble.h"
 
@@ -52,11 +53,11 @@ QSqlDatabase Store::database() const
     return QSqlDatabase::database(m_connection, false);
 }
 
-Result<Store> Store::connected(const QString &path, std::chrono::milliseconds patience)
+Result<Store> Store::connected(const QString &path, FileMode mode, std::chrono::milliseconds patience)
 {
     Store store(newConnectionName(), path);
     QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, store.m_connection);
-    database.setDatabaseName(storeAddress(path));
+    database.setDatabaseName(storeAddress(path, mode));
     database.setConnectOptions(u"QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1"_s.arg(patience.count()));
     if (!database.open())
         return storeTrouble(database.lastError(), path);
@@ -70,7 +71,7 @@ Result<Store> Store::open(const QString &path, Access access, std::chrono::milli
 {
     if (const std::optional<Trouble> trouble = troubleWithFile(path))
         return *trouble;
-    Result<Store> store = connected(path, patience);
+    Result<Store> store = connected(path, FileMode::Writable, patience);
     if (!store)
         return store;
     if (const Result<Done> ours = store->checkTables(); !ours)
@@ -82,7 +83,7 @@ Result<Store> Store::open(const QString &path, Access access, std::chrono::milli
 
 Result<Store> Store::makeTables(const QString &emptyFile)
 {
-    Result<Store> store = connected(emptyFile, std::chrono::milliseconds(0));
+    Result<Store> store = connected(emptyFile, FileMode::Writable, std::chrono::milliseconds(0));
     if (!store)
         return store;
     for (const QString &statement : QStringList(u"BEGIN"_s) + schemaStatements() + QStringList(u"COMMIT"_s))
@@ -91,9 +92,11 @@ Result<Store> Store::makeTables(const QString &emptyFile)
     return store;
 }
 
-// The first read: it also tells a file that is no database, and a lock.
+// The first read: it also tells a file that is no database, and a lock. Until here nothing was written.
 Result<Done> Store::checkTables() const
 {
+    if (const Result<Done> safe = schemaIsOurs(*this); !safe)
+        return safe;
     Result<QSqlQuery> table = run(kHasMaster);
     if (!table)
         return table.trouble();
@@ -113,6 +116,17 @@ Result<Done> Store::prepareFor(Access access) const
     for (const QString &statement : access == Access::Read ? kReading : kWriting)
         if (const Result<Done> done = execute(statement); !done)
             return done;
+    return access == Access::Read ? Done{} : addMissingTables();
+}
+
+// A store of an earlier version gets the tables that it could not know.
+Result<Done> Store::addMissingTables() const
+{
+    for (const SchemaTable &table : schemaTables()) {
+        const bool added = table.origin == SchemaTable::Origin::Added;
+        if (const Result<Done> there = added ? execute(tableStatement(table)) : Done{}; !there)
+            return there;
+    }
     return Done{};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "result.h"
+#include "storefile.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -21,8 +22,12 @@ public:
     };
 
     /// Opens the file of a store. A locked one is waited for as long as `patience` says. Trouble: STORE_MISSING,
-    /// STORE_LOCKED, STORE_READ_ONLY, STORE_DAMAGED, STORE_FULL or STORE_FAILED, with the path and the reason.
+    /// STORE_LOCKED, STORE_READ_ONLY, STORE_DAMAGED, STORE_FULL, STORE_FOREIGN, STORE_NEWER or STORE_FAILED, with the
+    /// path and the reason.
     static Result<Store> open(const QString &path, Access access, std::chrono::milliseconds patience);
+
+    /// A connection to a file that nothing is known of. It runs no code that the file brings along.
+    static Result<Store> connected(const QString &path, FileMode mode, std::chrono::milliseconds patience);
 
     /// Makes the tables in an empty file, and gives it open for writing.
     static Result<Store> makeTables(const QString &emptyFile);
@@ -49,10 +54,10 @@ public:
 private:
     explicit Store(QString connection, QString path);
     QSqlDatabase database() const;
-    static Result<Store> connected(const QString &path, std::chrono::milliseconds patience);
     Result<Done> execute(const QString &statement) const;
     Result<Done> checkTables() const;
     Result<Done> prepareFor(Access access) const;
+    Result<Done> addMissingTables() const;
 
     friend class Transaction;
     QString m_connection;

@@ -7,12 +7,13 @@
 
 using namespace Qt::StringLiterals;
 
-QString storeAddress(const QString &path)
+QString storeAddress(const QString &path, FileMode mode)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     // A drive letter needs a slash before it; a network share brings its own two.
     const QString rooted = absolute.startsWith(u'/') ? absolute : u'/' + absolute;
-    return u"file://"_s + QString::fromLatin1(QUrl::toPercentEncoding(rooted, "/:")) + u"?mode=rw"_s;
+    return u"file://"_s + QString::fromLatin1(QUrl::toPercentEncoding(rooted, "/:")) +
+           (mode == FileMode::ReadOnly ? u"?mode=ro"_s : u"?mode=rw"_s);
 }
 
 std::optional<Trouble> troubleWithFile(const QString &path)

@@ -9,5 +9,12 @@
 /// What keeps a path from being a store at all: things that the engine would only call "unable to open".
 std::optional<Trouble> troubleWithFile(const QString &path);
 
+/// Whether the file itself may be changed.
+enum class FileMode
+{
+    ReadOnly,
+    Writable
+};
+
 /// A path as the engine's address: the one way to say that a missing file must not be made.
-QString storeAddress(const QString &path);
+QString storeAddress(const QString &path, FileMode mode);

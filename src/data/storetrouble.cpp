@@ -43,3 +43,8 @@ Trouble storeTrouble(const QSqlError &error, const QString &path)
 {
     return storeTrouble(keyFor(error), path, reasonOf(error));
 }
+
+Trouble toldOf(const QString &path, const Trouble &trouble)
+{
+    return storeTrouble(trouble.what.key, path, trouble.what.arguments.value(1));
+}

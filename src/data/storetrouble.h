@@ -9,3 +9,6 @@ Trouble storeTrouble(const QString &key, const QString &path, const QString &rea
 
 /// The same for what the engine reported.
 Trouble storeTrouble(const QSqlError &error, const QString &path);
+
+/// The same trouble, told of another file: of the one that a person knows, where the work was done on a copy.
+Trouble toldOf(const QString &path, const Trouble &trouble);

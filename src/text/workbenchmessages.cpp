@@ -36,9 +36,62 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      {u"Erro no banco de dados: %1\n%2", u"Store error: %1\n%2", u"Error en la base de datos: %1\n%2"}},
     {u"STORE_EXISTS",
      Critical,
-     {u"O banco de dados já existe e não foi alterado: %1\nApague-o ou escolha outra pasta com --home.\n%2",
-      u"The store already exists and was not changed: %1\nDelete it or choose another folder with --home.\n%2",
-      u"La base de datos ya existe y no fue modificada: %1\nBórrela o elija otra carpeta con --home.\n%2"}},
+     {u"O arquivo já existe e não foi alterado: %1\nApague-o ou escolha outro nome ou outra pasta.",
+      u"The file exists already and was not changed: %1\nDelete it, or choose another name or folder.",
+      u"El archivo ya existe y no fue modificado: %1\nBórrelo, o elija otro nombre u otra carpeta."}},
+    {u"STORE_FOREIGN",
+     Critical,
+     {u"Recusado: não é um banco de dados confiável deste programa: %1\nEscolha outro arquivo ou restaure uma cópia de "
+      u"segurança. Nada foi alterado.\n%2",
+      u"Refused, not a store that this program can trust: %1\nChoose another file or restore a backup. Nothing was "
+      u"changed.\n%2",
+      u"Rechazado: no es una base de datos confiable de este programa: %1\nElija otro archivo o restaure una copia de "
+      u"seguridad. No se modificó nada.\n%2"}},
+    {u"STORE_NEWER",
+     Critical,
+     {u"Banco de dados de uma versão mais nova: %1\nAtualize o programa. Nada foi alterado.\n%2",
+      u"Store of a newer version: %1\nUpdate the program. Nothing was changed.\n%2",
+      u"Base de datos de una versión más nueva: %1\nActualice el programa. No se modificó nada.\n%2"}},
+    {u"BACKUP_FAILED",
+     Information,
+     {u"Cópia de segurança não criada em %1: %2\nAs cópias anteriores foram mantidas. Verifique o espaço e a permissão "
+      u"da pasta.",
+      u"No backup made in %1: %2\nEarlier backups were kept. Check the free space and the permission of the folder.",
+      u"No se creó la copia de seguridad en %1: %2\nSe conservaron las copias anteriores. Verifique el espacio y el "
+      u"permiso de la carpeta."}},
+
+    // Outcomes of work on the store: %1 the path
+    {u"STORE_GOOD",
+     Information,
+     {u"Banco de dados íntegro: %1", u"The store is sound: %1", u"La base de datos está íntegra: %1"}},
+    {u"STORE_FINDINGS",
+     Critical,
+     {u"Problemas encontrados (%2) em %1\nNada foi alterado. Há cópias de segurança na pasta \"backups\" ao lado.",
+      u"Problems found (%2) in %1\nNothing was changed. Backups are in the folder \"backups\" beside it.",
+      u"Problemas encontrados (%2) en %1\nNo se modificó nada. Hay copias de seguridad en la carpeta \"backups\" al "
+      u"lado."}},
+    {u"STORE_BACKED_UP",
+     Information,
+     {u"Cópia de segurança criada: %1", u"Backup made: %1", u"Copia de seguridad creada: %1"}},
+    {u"STORE_EXPORTED",
+     Information,
+     {u"Exportado para %1: %2 tabelas", u"Exported to %1: %2 tables", u"Exportado a %1: %2 tablas"}},
+    // %1 readings, %2 recordings, %3 commands, %4 left out
+    {u"STORE_IMPORTED",
+     Information,
+     {u"Importado: %1 malhas com leituras, %2 gravações, %3 comandos novos; %4 linhas ficaram de fora.",
+      u"Imported: %1 rails with readings, %2 recordings, %3 new commands; %4 rows were left out.",
+      u"Importado: %1 mallas con lecturas, %2 grabaciones, %3 comandos nuevos; %4 filas quedaron fuera."}},
+    // %1 the name, %2 what is known
+    {u"SETTING_UNKNOWN",
+     Information,
+     {u"Configuração desconhecida: %1\nConhecidas: %2", u"Unknown setting: %1\nKnown: %2",
+      u"Configuración desconocida: %1\nConocidas: %2"}},
+    // %1 the name, %2 the value, %3 what it may be
+    {u"SETTING_INVALID",
+     Information,
+     {u"Valor não aceito para %1: %2\nAceito: %3", u"Value not accepted for %1: %2\nAccepted: %3",
+      u"Valor no aceptado para %1: %2\nAceptado: %3"}},
 
     // What may mend a port that does not open
     {u"REMEDY_GROUP",

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "result.h"
+
+#include <QList>
+#include <QString>
+
+#include <span>
+
+class Store;
+
+/// Something in a store that should not be so.
+struct StoreFinding
+{
+    enum class Kind
+    {
+        Foreign, ///< not made by this program, or made to deceive it
+        Newer,   ///< made by a later version
+        Damaged, ///< no longer what was written
+        Untidy   ///< usable, but not as it should be
+    };
+
+    Kind kind = Kind::Untidy;
+    QString where;
+    QString what;
+};
+
+/// A name from a file, fit to be shown: short, and without characters that act.
+QString plainName(const QString &name);
+
+/// What the marks in the head and the kinds of things in the file say against it. Cheap: asked at each opening.
+Result<QList<StoreFinding>> strangeParts(const Store &store);
+
+/// The same as a trouble: STORE_FOREIGN or STORE_NEWER.
+Result<Done> schemaIsOurs(const Store &store);
+
+/// The columns of these tables that are missing, or hold something else than they should.
+Result<QList<StoreFinding>> strangeColumns(const Store &store, std::span<const QLatin1StringView> tables);
+
+/// The trouble that a finding comes to, told of this file.
+Trouble troubleOf(const StoreFinding &finding, const QString &path);

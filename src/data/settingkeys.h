@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store.h"
+
+#include <QList>
+#include <QString>
+
+/// A setting that a person may read and write by name.
+struct NamedSetting
+{
+    QString name;
+    QString value; ///< empty: never set
+};
+
+/// Every setting by name, in the order in which they are listed.
+Result<QList<NamedSetting>> namedSettings(const Store &store);
+
+/// The value of one setting. Trouble: SETTING_UNKNOWN with the names that there are.
+Result<QString> namedSetting(const Store &store, const QString &name);
+
+/// Writes a setting after checking its value. Trouble: SETTING_UNKNOWN, or SETTING_INVALID with what is accepted.
+Result<Done> setNamedSetting(Store &store, const QString &name, const QString &value);
