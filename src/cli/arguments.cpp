@@ -2,6 +2,7 @@
 
 #include "models.h"
 #include "screentable.h"
+#include "storecommands.h"
 
 #include <CLI/CLI.hpp>
 
@@ -85,9 +86,16 @@ void addStore(CLI::App &app, Arguments &arguments, Commands &commands)
 {
     CLI::App *store = app.add_subcommand("store", "the reference store");
     store->require_subcommand(1);
-    CLI::App *init = store->add_subcommand("init", "make a store from the seed tables; never touches one that exists");
-    addCommon(*init, arguments.common);
-    commands.emplace_back(init, Arguments::Command::StoreInit);
+    for (const StoreCommand &command : storeCommands()) {
+        CLI::App *word = store->add_subcommand(command.name, command.help);
+        addCommon(*word, arguments.common);
+        if (command.first.name)
+            addText(*word, command.first.name, arguments.text, command.first.help)->required(command.first.required);
+        if (command.second.name)
+            addText(*word, command.second.name, arguments.value, command.second.help)->required();
+        word->final_callback([&arguments, &command] { arguments.storeCommand = &command; });
+        commands.emplace_back(word, Arguments::Command::Store);
+    }
 }
 
 Commands addCommands(CLI::App &app, Arguments &arguments)

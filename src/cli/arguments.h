@@ -7,6 +7,8 @@
 
 #include <variant>
 
+struct StoreCommand;
+
 /// What the command line asks for.
 struct Arguments
 {
@@ -17,14 +19,16 @@ struct Arguments
         Send,
         Run,
         Judge,
-        StoreInit,
+        Store,
         Sim
     };
 
     Command command = Command::Ports;
     CommonOptions common;
     ScreenOptions screen;
-    QString text; ///< the command line to send, or the phone to simulate
+    const StoreCommand *storeCommand = nullptr;
+    QString text;  ///< the command line to send, the phone to simulate, or the first word after a store command
+    QString value; ///< the second one
 };
 
 /// The arguments, or the code to end with after help or a complaint was printed.

@@ -60,8 +60,8 @@ static int runCommand(QCoreApplication &app, const Arguments &arguments)
     switch (arguments.command) {
     case Arguments::Command::Ports:
         return static_cast<int>(listPorts(arguments.common));
-    case Arguments::Command::StoreInit:
-        return static_cast<int>(initStore(arguments.common));
+    case Arguments::Command::Store:
+        return static_cast<int>(arguments.storeCommand->run(arguments.common, arguments.text, arguments.value));
     case Arguments::Command::Judge:
         return judge(app, arguments);
     case Arguments::Command::Sim:
