@@ -53,6 +53,7 @@ StartOptions startOptions(const QCoreApplication &application)
                        {u"connect"_s, u"connect at once"_s},
                        {u"screen"_s, u"open this screen"_s, u"NAME"_s},
                        {u"read"_s, u"start the screen's reading once the phone is connected"_s},
+                       {u"log"_s, u"open the exchange log"_s},
                        {u"theme"_s, u"light or dark (else as the desktop)"_s, u"THEME"_s}});
     if (!parser.parse(application.arguments()))
         complain(parser.errorText());
@@ -62,5 +63,6 @@ StartOptions startOptions(const QCoreApplication &application)
         parser.showVersion();
     return {parser.value(u"home"_s),    parser.value(u"port"_s),
             parser.isSet(u"connect"_s), screenName(parser.value(u"screen"_s)),
-            parser.isSet(u"read"_s),    themeChoice(parser.value(u"theme"_s))};
+            parser.isSet(u"read"_s),    parser.isSet(u"log"_s),
+            themeChoice(parser.value(u"theme"_s))};
 }

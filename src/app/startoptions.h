@@ -13,6 +13,7 @@ struct StartOptions
     bool connects = false;
     QString screen; ///< a form's name; empty: none
     bool reads = false;
+    bool showsLog = false;
     ThemeChoice theme = ThemeChoice::Desktop;
 };
 

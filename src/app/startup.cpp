@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "backups.h"
 #include "catalogue.h"
 #include "connectionbar.h"
 #include "home.h"
@@ -7,14 +8,21 @@
 
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QTimer>
 #include <QUrl>
 
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
+static QString stateFile()
+{
+    return stateFolder() + "/window.ini"_L1;
+}
+
 Startup::Startup(const StartOptions &options)
     : m_options(options),
+      m_log(stateFolder()),
       m_store(configStore(homeFolder(options.home)), StoreQueue::Waiting::ByTimer),
       m_boxes([this] { return m_session.language(); }),
       m_session({.port = m_port,
@@ -22,9 +30,36 @@ Startup::Startup(const StartOptions &options)
                  .boxes = m_boxes,
                  .deviceFor = [this](const PortAddress &address) { return m_resolver.deviceFor(address); },
                  .open = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); }}),
-      m_window(m_session, portsOfThisMachine)
+      m_window({m_session, m_log, portsOfThisMachine}),
+      m_import(m_session)
 {
     m_boxes.setParent(&m_window);
+    m_log.watch(m_port);
+    QObject::connect(&m_window, &Inicial::importWanted, &m_import, [this] { m_import.offer(Occasion::AboutBox); });
+}
+
+Startup::~Startup()
+{
+    if (!keepWindowState(m_window.state(), stateFile()))
+        std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(stateFile())), stderr);
+}
+
+void Startup::keepBackup()
+{
+    if (const Result<bool> kept = rollBackups(m_store.path()); !kept)
+        m_window.showNotice(kept.trouble());
+}
+
+/// Without the model there is nothing to read by: the technician is asked for it first.
+void Startup::readOnceConnected()
+{
+    QObject::connect(
+        &m_session, &Session::connectionSettled, &m_window,
+        [this] {
+            if (m_session.isModelKnown())
+                m_window.readScreen(m_options.screen);
+        },
+        Qt::SingleShotConnection);
 }
 
 void Startup::probeInternet()
@@ -40,17 +75,19 @@ void Startup::begin()
 {
     m_session.load();
     probeInternet();
+    m_import.offer(Occasion::Start);
+    m_window.restore(windowStateFrom(stateFile()));
     if (!m_options.port.isEmpty())
         m_window.connectionBar().setPort(m_options.port);
     m_window.show();
     if (!m_options.screen.isEmpty())
         m_window.openScreen(m_options.screen);
+    m_window.showLog(m_options.showsLog);
     if (m_options.reads)
-        QObject::connect(
-            &m_session, &Session::connectionSettled, &m_window, [this] { m_window.readScreen(m_options.screen); },
-            Qt::SingleShotConnection);
+        readOnceConnected();
     if (m_options.connects)
         m_window.Botoes_Click(1);
+    QTimer::singleShot(0, &m_window, [this] { keepBackup(); }); // the window comes first
 }
 
 void showStoreMissing(const QString &path)

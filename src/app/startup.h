@@ -1,5 +1,7 @@
 #pragma once
 
+#include "exchangelog.h"
+#include "importoffer.h"
 #include "inicial.h"
 #include "portresolver.h"
 #include "reachability.h"
@@ -13,19 +15,24 @@ class Startup
 {
 public:
     explicit Startup(const StartOptions &options);
+    ~Startup();
 
     void begin();
 
 private:
     void probeInternet();
+    void keepBackup();
+    void readOnceConnected();
 
     StartOptions m_options;
+    ExchangeLog m_log;
     SerialPort m_port;
     PortResolver m_resolver;
     StoreQueue m_store;
     WindowBoxes m_boxes;
     Session m_session;
     Inicial m_window;
+    ImportOffer m_import;
     Reachability m_reachability;
 };
 

@@ -37,6 +37,7 @@ struct RailContext
     int voltDecimals = 3;
     int milliDecimals = 1;
     QString noReading; ///< "Sem Medição" in the user's language
+    Rule rule = Rule::tenPercent();
 };
 
 /// A row of the reference table with what the reply gave for it.
@@ -44,20 +45,21 @@ struct EvaluatedRail
 {
     RailRow row; ///< with `leitura` and `porc` filled in
     std::optional<double> deviation = {};
+    std::optional<Rule> rule = {}; ///< what it is judged by, if it has a reference
     Verdict verdict = Verdict::None;
     QString line = {};
     bool indexUnknown = false;
 };
 
-/// Reads one row out of the reply, formats it and judges it against its reference at ten per cent. A row without a
+/// Reads one row out of the reply, formats it and judges it against its reference. A row without a
 /// reading index stays unread. A missing or timed-out line of a row with a reference is incomplete.
 EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, const RailRules &rules);
 
 /// A row has a reference when its nominal is known and is not "0".
 bool hasReference(const RailRow &row);
 
-/// Largest magnitude of the deviation first, then readings without a deviation, rows without a reading last.
-QList<EvaluatedRail> byDeviation(QList<EvaluatedRail> rails);
+/// The rails in an order, exactly as the store would list their rows.
+QList<EvaluatedRail> sorted(QList<EvaluatedRail> rails, RailOrder order);
 
 /// The rows, the judgements and the verdict of a grid of rails. A cut reply is never judged good.
 void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut);

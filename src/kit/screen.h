@@ -23,6 +23,11 @@ public:
     /// What the last reading gave, without the state of the buttons around it.
     const Panel &reading() const { return m_reading; }
 
+    /// What the last reading judged, also in what is not in front.
+    virtual QList<Judgement> judgements() const { return m_reading.judgements; }
+    /// Brings a judged thing to the front.
+    virtual void goTo(const QString &what) { Q_UNUSED(what) }
+
     /// The screen is opened: it fills itself from the store.
     virtual void open() = 0;
     /// The screen's own read button.
@@ -34,6 +39,8 @@ public:
 
 signals:
     void panelChanged();
+    /// A reply was judged anew.
+    void judged();
     /// A reading has ended, well or not; `panel()` holds it.
     void readingEnded();
     void screenRequested(const QString &name);

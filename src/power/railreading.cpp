@@ -1,6 +1,7 @@
 #include "railreading.h"
 
 #include "catalogue.h"
+#include "models.h"
 
 #include <algorithm>
 
@@ -9,8 +10,7 @@ using namespace Qt::StringLiterals;
 /// Some outputs show no value in diagnostics mode; which ones depends on the generation.
 static QString note(const QString &model, Language language)
 {
-    const bool newest = model.startsWith("IP X"_L1) || model.startsWith("IP 8"_L1);
-    return caption(newest ? u"VAR4" : u"VAR3", language);
+    return caption(isNewestGeneration(model) ? u"VAR4" : u"VAR3", language);
 }
 
 static EvaluatedRail unread(RailRow row)
@@ -28,7 +28,7 @@ static QList<EvaluatedRail> evaluated(const RailScreenTraits &traits, const Rail
     QList<EvaluatedRail> rails;
     for (const RailRow &row : rows)
         rails.append(input.reply.isEmpty() ? unread(row) : AvaliaLinhaPmu(context, row, traits.rules));
-    return input.order == RailOrder::PorcDescending ? byDeviation(rails) : rails;
+    return rails;
 }
 
 /// A hole in the numbering of the reading indices is a mistake in the reference data: the technician is told.
@@ -45,10 +45,7 @@ static QList<Notice> unknownIndices(const QList<EvaluatedRail> &rails)
 
 RailReading readRails(const RailScreenTraits &traits, const RailInput &input, const QList<RailRow> &rows)
 {
-    // Deviations of an earlier reading are no order: this one sorts its own, from the plain order on.
-    const bool byOwnDeviation = input.order == RailOrder::PorcDescending;
-    const RailOrder order = byOwnDeviation ? traits.malhaOrder : input.order;
-    const QList<EvaluatedRail> rails = evaluated(traits, input, sorted(rows, order));
+    const QList<EvaluatedRail> rails = sorted(evaluated(traits, input, rows), input.order);
     RailReading reading;
     reading.panel.screen = traits.name;
     reading.panel.title = traits.title + u" - Tavimo Prelt - "_s + input.model;

@@ -18,6 +18,14 @@ struct RailInput
     RailOrder order = RailOrder::ModeloOrig;
 };
 
+/// A kind of rows that a screen can show, and the button that chooses it.
+struct RailKind
+{
+    int kind;
+    QStringView control; ///< empty: there is nothing to choose
+    QStringView caption;
+};
+
 /// A screen that shows rails of the reference table: its words, its rules, its settings.
 struct RailScreenTraits
 {
@@ -30,7 +38,7 @@ struct RailScreenTraits
     RailOrder icOrder;    ///< `OpIc`
     Combo voltDecimals;
     Combo milliDecimals;
-    int firstKind;
+    std::span<const RailKind> kinds; ///< the first is shown first
 };
 
 /// A reading of the rails: what the form paints, and the rows with their working columns for the store.

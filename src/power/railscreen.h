@@ -1,13 +1,13 @@
 #pragma once
 
 #include "railreading.h"
-#include "screen.h"
+#include "readingscreen.h"
 
 #include <QTimer>
 
 /// What the screens over the rails of the reference table share: rows by model and kind, the self-test reading,
-/// decimals, orders and the three recorded readings.
-class RailScreen : public Screen
+/// decimals, orders and the three recorded readings. All kinds are judged from one reply.
+class RailScreen : public ReadingScreen
 {
     Q_OBJECT
 
@@ -15,16 +15,11 @@ public:
     RailScreen(Session &session, const RailScreenTraits &traits, QObject *parent = nullptr);
 
     void open() override;
-    void read() override { PrePesquisa(); }
-    bool hasReading() const override { return !m_input.reply.isEmpty(); }
     void setShown(bool shown) override;
+    QList<Judgement> judgements() const override;
+    void goTo(const QString &what) override;
 
     int kind() const { return m_kind; }
-    RailOrder order() const { return m_input.order; }
-    int voltDecimals() const { return m_input.voltDecimals; }
-    int milliDecimals() const { return m_input.milliDecimals; }
-    const QString &txtDados() const { return m_input.reply; }
-
     void chooseKind(int kind);
     /// Texts of `ComboDecimais` and `ComboDecimaisAmp`; others are not taken.
     void ComboDecimais_Click(const QString &text);
@@ -39,43 +34,45 @@ public:
     void DBGrid1_Click();
 
     /// Prepares a reading: gets the model first when it is not known.
-    void PrePesquisa();
+    void PrePesquisa() { read(); }
     /// Sends the self-test command and waits for its reply.
-    void ExecutaPesquisa();
+    void ExecutaPesquisa() { send(); }
     /// The readings were cleared: the rows are shown afresh.
     void LimpaLeiturasExterno();
 
-    void take(const Delivery &delivery) override;
-    void resume() override { ExecutaPesquisa(); }
-    void release(Release why, const Delivery &partial) override;
-
 public slots:
-    void Timer1_Timer();
     void TimerBarra_Timer();
     void TimerIndicaVar_Timer();
+
+protected:
+    bool isPrepared() const override;
+    void prepare() override { loadRows(); }
+    void readingBegan() override;
+    void readingStopped() override;
+    void rebuild() override;
 
 private:
     void loadDecimals();
     void loadRows();
-    void rebuild();
+    void loadKind(int kind);
+    void rowsCame();
     void sortBy(RailOrder order);
-    bool setVoltDecimals(const QString &text);
-    bool setMilliDecimals(const QString &text);
+    bool setDecimals(int &decimals, int least, const QString &text);
     void keepDecimals(Combo which, const QString &text);
     bool mayRecord();
     void writeSlotAfter(const QString &title, const QString &question, int slot, const QList<SlotText> &texts);
-    QList<SlotText> readings() const;
-    void beginReading();
-    void endReading();
+    QList<SlotText> shownReadings() const;
+    void blinkNote();
     void storeReadings();
+    QString kindText(const RailKind &kind) const;
     QMap<QString, Field> state() const;
 
     const RailScreenTraits &m_traits;
     int m_kind;
     RailInput m_input;
-    QList<RailRow> m_rows;
-    RailReading m_reading;
-    bool m_isReading = false;
+    QMap<int, QList<RailRow>> m_rows; ///< by kind; a kind that is not there has not come from the store yet
+    QMap<int, RailReading> m_readings;
+    bool m_shown = false;
     bool m_noteVisible = true;
     int m_blinks = 0;
     int m_progress = 0;

@@ -2,12 +2,14 @@
 
 #include "catalogue.h"
 #include "connectionbar.h"
+#include "exchangedrawer.h"
 #include "findingspanel.h"
 #include "icons.h"
 #include "modulerail.h"
 #include "moduletable.h"
 #include "plaintext.h"
 #include "plannedform.h"
+#include "reconnector.h"
 #include "sobre.h"
 #include "xidioma.h"
 
@@ -18,6 +20,7 @@
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QShortcut>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -29,14 +32,22 @@ using namespace Qt::StringLiterals;
 static constexpr int kFindingsFrom = 1600;
 static constexpr int kFindingsWidth = 300;
 static constexpr int kProgressWidth = 160;
+/// How the height is shared when the exchange log is open.
+static constexpr int kScreenShare = 500;
+static constexpr int kLogShare = 220;
 
-Inicial::Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWidget *parent)
+Inicial::Inicial(const WindowParts &parts, QWidget *parent)
     : QMainWindow(parent),
-      m_session(session),
-      m_ports(std::move(ports)),
-      m_connectionBar(new ConnectionBar(session)),
+      m_session(parts.session),
+      m_ports(parts.ports),
+      m_connectionBar(new ConnectionBar(parts.session)),
       m_rail(new ModuleRail),
       m_tabs(new QTabWidget),
+      m_splitter(new QSplitter(Qt::Vertical)),
+      m_drawer(new ExchangeDrawer(parts.log)),
+      m_btLog(new QToolButton),
+      m_btReconectar(new QToolButton),
+      m_reconnector(new Reconnector(parts.session, this)),
       m_middle(new QHBoxLayout),
       m_emptyHint(new QLabel),
       m_findings(new FindingsPanel),
@@ -52,6 +63,8 @@ Inicial::Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWid
     fillStatusBar();
     connectSession();
     connectWindow();
+    connectReconnector();
+    connect(&parts.log, &ExchangeLog::notWritten, this, &Inicial::showNotice);
     Traducao_Form_Inicial();
     listPorts();
     resize(1280, 800);
@@ -100,12 +113,20 @@ QWidget *Inicial::content()
     m_middle->addWidget(m_emptyHint, 1);
     m_middle->addWidget(m_tabs, 1);
     m_middle->addWidget(m_findings);
+    m_middle->setContentsMargins(0, 0, 0, 0);
+    auto *middle = new QWidget;
+    middle->setLayout(m_middle);
+    m_drawer->hide();
+    m_splitter->addWidget(middle);
+    m_splitter->addWidget(m_drawer);
+    m_splitter->setCollapsible(0, false);
+    m_splitter->setSizes({kScreenShare, kLogShare});
     auto *frame = new QWidget;
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(topRow());
-    layout->addLayout(m_middle, 1);
+    layout->addWidget(m_splitter, 1);
     return frame;
 }
 
@@ -120,7 +141,14 @@ void Inicial::fillStatusBar()
     m_progress->hide();
     statusBar()->setContentsMargins(Spacing::group, 0, 0, 0);
     statusBar()->addWidget(m_notice, 1);
+    m_btReconectar->setObjectName(u"btReconectar"_s);
+    m_btReconectar->hide();
+    m_btLog->setObjectName(u"btLog"_s);
+    m_btLog->setCheckable(true);
+    m_btLog->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     statusBar()->addPermanentWidget(m_progress);
+    statusBar()->addPermanentWidget(m_btReconectar);
+    statusBar()->addPermanentWidget(m_btLog);
 }
 
 void Inicial::connectSession()
@@ -150,7 +178,11 @@ void Inicial::connectWindow()
             [this] { closeTab(m_tabs->currentIndex()); });
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, m_findingsButton, &QToolButton::click);
     connect(m_findings, &FindingsPanel::countChanged, this, &Inicial::paintFindings);
-    connect(m_findings, &FindingsPanel::findingChosen, this, [this](const QString &screen) { openScreen(screen); });
+    connect(m_findings, &FindingsPanel::findingChosen, this, &Inicial::goTo);
+    connect(m_btLog, &QToolButton::toggled, this, &Inicial::showLog);
+    connect(new QShortcut(Qt::Key_F12, this), &QShortcut::activated, m_btLog, &QToolButton::click);
+    connect(m_drawer, &ExchangeDrawer::saveFailed, this,
+            [this](const Trouble &trouble) { m_session.boxes().message(trouble); });
     connect(m_findingsButton, &QToolButton::toggled, this, [this](bool opened) {
         m_findingsOpened = opened;
         m_findingsButton->setIcon(lineIcon(u"findings", opened ? currentTheme().onAccent : currentTheme().text));
@@ -165,17 +197,76 @@ void Inicial::Botoes_Click(int index)
     else if (index == 10)
         (new xIdioma(m_session, this))->open();
     else if (index == 12)
-        (new Sobre(m_session.language(), m_session.store().path(), this))->open();
+        openAbout();
     else if (const Module *module = moduleOfButton(index))
         openScreen(QString(module->name));
 }
 
+void Inicial::openAbout()
+{
+    auto *about = new Sobre(m_session.language(), m_session.store().path(), this);
+    connect(about, &Sobre::importWanted, this, &Inicial::importWanted);
+    about->open();
+}
+
+void Inicial::connectReconnector()
+{
+    connect(m_btReconectar, &QToolButton::clicked, m_reconnector, &Reconnector::reconnect);
+    connect(m_reconnector, &Reconnector::withdrawn, m_btReconectar, &QToolButton::hide);
+    connect(m_reconnector, &Reconnector::offered, this, [this](const QString &device) {
+        m_btReconectar->setText(text(u"Reconectar") + u": "_s + device);
+        m_btReconectar->show();
+    });
+}
+
+void Inicial::showLog(bool open)
+{
+    m_btLog->setChecked(open);
+    m_drawer->setVisible(open);
+}
+
+QWidget *Inicial::page(const QString &name) const
+{
+    for (int i = 0; i < m_tabs->count(); ++i)
+        if (m_tabs->widget(i)->objectName() == name)
+            return m_tabs->widget(i);
+    return nullptr;
+}
+
 void Inicial::openScreen(const QString &name)
 {
-    if (!m_tabs->findChild<QWidget *>(name))
+    if (!page(name))
         addForm(name);
-    m_tabs->setCurrentWidget(m_tabs->findChild<QWidget *>(name));
+    m_tabs->setCurrentWidget(page(name));
     paintTabs();
+}
+
+void Inicial::goTo(const QString &screen, const QString &what)
+{
+    openScreen(screen);
+    if (auto *form = qobject_cast<ScreenForm *>(page(screen)))
+        form->goTo(what);
+}
+
+WindowState Inicial::state() const
+{
+    WindowState now{saveGeometry(), {}, {}, m_connectionBar->port()};
+    for (int i = 0; i < m_tabs->count(); ++i)
+        now.screens.append(m_tabs->widget(i)->objectName());
+    if (m_tabs->currentWidget())
+        now.front = m_tabs->currentWidget()->objectName();
+    return now;
+}
+
+void Inicial::restore(const WindowState &state)
+{
+    restoreGeometry(state.geometry);
+    if (!state.port.isEmpty())
+        m_connectionBar->setPort(state.port);
+    for (const QString &screen : state.screens)
+        openScreen(screen);
+    if (page(state.front))
+        openScreen(state.front);
 }
 
 void Inicial::addForm(const QString &name)
@@ -190,15 +281,14 @@ void Inicial::addForm(const QString &name)
         return;
     form->CarregaDados();
     connect(&form->screen(), &Screen::screenRequested, this, &Inicial::openScreen);
-    connect(&form->screen(), &Screen::readingEnded, this,
-            [this, form] { m_findings->add(form->screen().reading().judgements); });
+    connect(&form->screen(), &Screen::judged, this, [this, form] { m_findings->add(form->screen().judgements()); });
     connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
     connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
 }
 
 void Inicial::readScreen(const QString &name)
 {
-    if (auto *form = m_tabs->findChild<ScreenForm *>(name))
+    if (auto *form = qobject_cast<ScreenForm *>(page(name)))
         form->screen().read();
 }
 
@@ -245,6 +335,8 @@ void Inicial::tellStoreTrouble(const Trouble &trouble)
 void Inicial::paintStatus()
 {
     setWindowTitle(m_session.windowCaption());
+    if (m_session.Status() == "3"_L1)
+        m_notice->clear(); // what was refused before is settled by what is sent now
     paintProgress();
 }
 
@@ -262,6 +354,7 @@ void Inicial::paintModel()
 {
     if (m_session.isModelKnown() && m_session.model() != m_foundOn) {
         m_foundOn = m_session.model();
+        m_notice->clear();
         m_findings->clear();
     }
     paintTabs();
@@ -294,8 +387,8 @@ void Inicial::paintFindings()
 void Inicial::layFindingsOver()
 {
     m_middle->removeWidget(m_findings);
-    const QSize room = centralWidget()->size();
-    m_findings->setGeometry(room.width() - kFindingsWidth, m_rail->y(), kFindingsWidth, room.height() - m_rail->y());
+    const QSize room = m_findings->parentWidget()->size();
+    m_findings->setGeometry(room.width() - kFindingsWidth, 0, kFindingsWidth, room.height());
     m_findings->raise();
 }
 
@@ -355,6 +448,10 @@ void Inicial::Traducao_Form_Inicial()
     m_menuButton->setIcon(lineIcon(u"menu"));
     m_menuButton->setToolTip(text(u"Ferramentas"));
     m_menuButton->setAccessibleName(text(u"Ferramentas"));
+    m_drawer->Traducao_Form(m_session.language());
+    m_btLog->setText(text(u"Registro da comunicação"));
+    m_btLog->setIcon(lineIcon(u"log"));
+    m_btLog->setToolTip(text(u"Registro da comunicação") + "  (F12)"_L1);
     m_emptyHint->setText(text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));
     buildMenu();
     paintStatus();

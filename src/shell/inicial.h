@@ -1,32 +1,45 @@
 #pragma once
 
+#include "exchangelog.h"
 #include "formtable.h"
 #include "portlist.h"
 #include "session.h"
 #include "theme.h"
+#include "windowstate.h"
 
 #include <QMainWindow>
 
 #include <functional>
 
 class ConnectionBar;
+class ExchangeDrawer;
 class FindingsPanel;
 class ModuleRail;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QProgressBar;
+class QSplitter;
 class QTabWidget;
 class QToolButton;
+class Reconnector;
 class ScreenForm;
 
-/// The frame window: connection bar, rail of screens, the open screens as tabs, and the findings.
+/// What the window works with.
+struct WindowParts
+{
+    Session &session;
+    ExchangeLog &log;
+    std::function<QList<PortEntry>()> ports;
+};
+
+/// The frame window: connection bar, rail of screens, the open screens as tabs, the findings and the exchange log.
 class Inicial : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit Inicial(Session &session, std::function<QList<PortEntry>()> ports, QWidget *parent = nullptr);
+    explicit Inicial(const WindowParts &parts, QWidget *parent = nullptr);
     ~Inicial() override;
 
     ConnectionBar &connectionBar() const { return *m_connectionBar; }
@@ -40,6 +53,15 @@ public:
     /// One line at the bottom: what was refused or ignored, and why.
     void showNotice(const Trouble &trouble);
     void Traducao_Form_Inicial();
+    /// Opens or folds the exchange log.
+    void showLog(bool open);
+
+    WindowState state() const;
+    void restore(const WindowState &state);
+
+signals:
+    /// The about box asks for what a former version's store holds.
+    void importWanted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -51,6 +73,10 @@ private:
     void fillStatusBar();
     void connectSession();
     void connectWindow();
+    void connectReconnector();
+    QWidget *page(const QString &name) const;
+    void goTo(const QString &screen, const QString &what);
+    void openAbout();
     void buildMenu();
     void addForm(const QString &name);
     void listPorts();
@@ -71,6 +97,11 @@ private:
     ConnectionBar *m_connectionBar;
     ModuleRail *m_rail;
     QTabWidget *m_tabs;
+    QSplitter *m_splitter;
+    ExchangeDrawer *m_drawer;
+    QToolButton *m_btLog;
+    QToolButton *m_btReconectar;
+    Reconnector *m_reconnector;
     QHBoxLayout *m_middle;
     QLabel *m_emptyHint;
     FindingsPanel *m_findings;

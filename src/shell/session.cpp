@@ -144,11 +144,13 @@ void Session::openPort(const PortAddress &address)
         emit connectFailed();
         return;
     }
+    emit portOpened(*device);
     m_timerFecha.stop();
     m_accepted = false;
     m_handshakeTicks = 0;
     m_lbModelo.clear();
     setModel(m_model, false);
+    clearStoredReadings(); // what is on screen was another phone's, for all we know
     m_code = kMainWindowCode;
     m_txtComandos = kModelQuery;
     EnviaComando();

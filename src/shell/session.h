@@ -146,6 +146,7 @@ signals:
     void speedChanged();
     void consoleChanged();
     void portsWanted();
+    void portOpened(const QString &device);
     void connectionSettled(); ///< the handshake was accepted and the model is known or cannot be told
     void connectFailed();     ///< the port did not open or the phone did not answer
     void linkLost();
@@ -176,6 +177,7 @@ private:
     void sendModelQuery(QTimer &watch);
     void readModelRecord();
     void watchModelReply();
+    void settleWithoutRecord();
     bool takeModelReply(const ModelReply &reply);
     void identify(const QString &model);
     void giveUpModel(const QString &shown);

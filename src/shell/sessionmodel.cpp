@@ -47,11 +47,8 @@ void Session::readModelRecord()
     const ModelReply reply = modelReply(m_txtConsole);
     if (takeModelReply(reply))
         return;
-    if (reply.kind == ModelReply::Kind::NoRecord) {
-        emit modelMissing();
-        emit connectionSettled();
-        return;
-    }
+    if (reply.kind == ModelReply::Kind::NoRecord)
+        return settleWithoutRecord();
     m_mayRepeatQuery = true;
     m_modelTicks = 0;
     if (m_modelKnown) // picked by hand meanwhile: the query is not repeated, its reply is only watched
@@ -116,7 +113,14 @@ void Session::watchModelReply()
     if (!m_origin.isEmpty())
         return giveUpModel({});
     endModelWatch();
-    emit modelMissing();
+    settleWithoutRecord();
+}
+
+/// A model that was picked by hand stands; without one the technician is to choose.
+void Session::settleWithoutRecord()
+{
+    if (!m_modelKnown)
+        emit modelMissing();
     emit connectionSettled();
 }
 

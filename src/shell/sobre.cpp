@@ -40,6 +40,11 @@ Sobre::Sobre(Language language, const QString &storePath, QWidget *parent) : QDi
     layout->addWidget(paragraph(text(u"Dados") + ": "_L1 + storePath));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setText(text(u"Fechar"));
+    QPushButton *sync = buttons->addButton(text(u"Sincronizar / Sync"), QDialogButtonBox::ActionRole);
+    connect(sync, &QPushButton::clicked, this, [this] {
+        emit importWanted();
+        accept();
+    });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     setMinimumWidth(480);

@@ -11,4 +11,7 @@ class Sobre : public QDialog
 
 public:
     Sobre(Language language, const QString &storePath, QWidget *parent = nullptr);
+
+signals:
+    void importWanted();
 };

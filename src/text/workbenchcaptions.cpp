@@ -128,6 +128,8 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"Copiar", u"Copiar", u"Copy", u"Copiar"},
     {u"Copiar tudo", u"Copiar tudo", u"Copy all", u"Copiar todo"},
     {u"Exportar CSV", u"Exportar CSV", u"Export CSV", u"Exportar CSV"},
+    {u"Próximo", u"Próximo", u"Next", u"Siguiente"},
+    {u"Anterior", u"Anterior", u"Previous", u"Anterior"},
     {u"Localizar", u"Localizar", u"Find", u"Buscar"},
     {u"Sim", u"Sim", u"Yes", u"Sí"},
     {u"Não", u"Não", u"No", u"No"},

@@ -22,6 +22,8 @@ public:
     virtual void Traducao_Form() = 0;
     /// Fills the form when it is opened.
     virtual void CarregaDados();
+    /// Shows a judged thing.
+    virtual void goTo(const QString &what) { m_screen->goTo(what); }
 
 signals:
     /// The user asked for something that is to last: should the store refuse it, a line at the bottom is not enough.

@@ -65,7 +65,8 @@ struct Bench
                      .boxes = boxes,
                      .deviceFor = [this](const PortAddress &address) { return resolver.deviceFor(address); },
                      .intervals = kQuick}};
-    Inicial window{session, [] { return QList<PortEntry>(); }};
+    ExchangeLog log{home.filePath(u"log"_s)};
+    Inicial window{{session, log, [] { return QList<PortEntry>(); }}};
 
     bool shown = false;
 

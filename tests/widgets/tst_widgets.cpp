@@ -384,7 +384,7 @@ private slots:
             {theme.onField, theme.passField}, {theme.faultInk, theme.surface},   {theme.warnInk, theme.surface},
             {theme.passInk, theme.surface},   {theme.passInk, theme.stripe}};
         for (const auto &[ink, ground] : pairs) {
-            const auto [low, high] = std::minmax(luminance(ink), luminance(ground));
+            const auto [low, high] = std::minmax({luminance(ink), luminance(ground)});
             QVERIFY2((high + 0.05) / (low + 0.05) >= 4.5, qPrintable(ink.name() + u" on "_s + ground.name()));
         }
         applyTheme(*qApp, ThemeChoice::Light);

@@ -1,0 +1,80 @@
+#include "readingscreen.h"
+
+using namespace Qt::StringLiterals;
+
+ReadingScreen::ReadingScreen(Session &session, QString name, QString code, QString command, QObject *parent)
+    : Screen(session, std::move(name), {code}, parent), m_code(std::move(code)), m_command(std::move(command))
+{
+}
+
+void ReadingScreen::read()
+{
+    if (session().isModelKnown())
+        return send();
+    if (session().requestModel(m_code))
+        begin();
+    else
+        end();
+}
+
+void ReadingScreen::send()
+{
+    if (session().request(m_code, m_command))
+        begin();
+    else
+        end();
+}
+
+void ReadingScreen::forgetReading()
+{
+    m_txtDados.clear();
+    m_cut = false;
+}
+
+void ReadingScreen::begin()
+{
+    forgetReading();
+    m_isReading = true;
+    readingBegan();
+    rebuild();
+}
+
+void ReadingScreen::end()
+{
+    m_isReading = false;
+    readingStopped();
+    rebuild();
+    emit readingEnded();
+}
+
+void ReadingScreen::take(const Delivery &delivery)
+{
+    m_txtDados = delivery.reply;
+    m_cut = delivery.cut;
+    if (isPrepared())
+        Timer1_Timer();
+    else
+        prepare();
+}
+
+void ReadingScreen::release(Release why, const Delivery &partial)
+{
+    Q_UNUSED(why)
+    if (!partial.reply.isEmpty())
+        return take(partial);
+    end();
+}
+
+void ReadingScreen::Timer1_Timer()
+{
+    if (m_txtDados.isEmpty())
+        session().refuse({u"IGNORED_EMPTY_REPLY"_s});
+    else if (m_cut)
+        session().refuse({u"REPLY_CUT"_s});
+    end();
+    if (m_txtDados.isEmpty())
+        return;
+    for (const Notice &notice : reading().messages)
+        session().boxes().message({notice});
+    emit judged();
+}
