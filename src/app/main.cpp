@@ -1,6 +1,7 @@
 #include "home.h"
 #include "icons.h"
 #include "startup.h"
+#include "storeinspection.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -11,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 static constexpr int kNoDisplay = 2;
-static constexpr int kStoreMissing = 4;
+static constexpr int kNoStore = 4;
 
 static void showSplash(QSplashScreen &splash)
 {
@@ -56,7 +57,13 @@ int main(int argc, char **argv)
         splash.close();
         showStoreMissing(store);
         QApplication::exec();
-        return kStoreMissing;
+        return kNoStore;
+    }
+    if (const Result<Done> sound = inspectStore(store, StoreRole::Reference, Depth::Quick); !sound) {
+        splash.close();
+        showStoreRefused(sound.trouble());
+        QApplication::exec();
+        return kNoStore;
     }
     Startup startup(options);
     startup.begin();

@@ -61,8 +61,11 @@ StartOptions startOptions(const QCoreApplication &application)
         parser.showHelp();
     if (parser.isSet(u"version"_s))
         parser.showVersion();
-    return {parser.value(u"home"_s),    parser.value(u"port"_s),
-            parser.isSet(u"connect"_s), screenName(parser.value(u"screen"_s)),
-            parser.isSet(u"read"_s),    parser.isSet(u"log"_s),
+    return {parser.value(u"home"_s),
+            parser.value(u"port"_s),
+            parser.isSet(u"connect"_s),
+            screenName(parser.value(u"screen"_s)),
+            parser.isSet(u"read"_s),
+            parser.isSet(u"log"_s),
             themeChoice(parser.value(u"theme"_s))};
 }

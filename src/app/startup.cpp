@@ -90,11 +90,27 @@ void Startup::begin()
     QTimer::singleShot(0, &m_window, [this] { keepBackup(); }); // the window comes first
 }
 
+static void showCritical(const QString &title, const QStringList &lines)
+{
+    auto *box = new QMessageBox(QMessageBox::Critical, title, lines.join(u'\n'));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open(); // the program ends with its last window
+}
+
 void showStoreMissing(const QString &path)
 {
     const auto missing = message({u"ARQUIVO_AUSENTE"_s}, Language::Portuguese);
     std::fputs(qPrintable(u"tavimo-prelt: no store at %1; make one with: prelt store init\n"_s.arg(path)), stderr);
-    auto *box = new QMessageBox(QMessageBox::Critical, missing->title, missing->lines.join(u'\n'));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open(); // the program ends with its last window
+    showCritical(missing->title, missing->lines);
+}
+
+void showStoreRefused(const Trouble &trouble)
+{
+    QStringList lines;
+    for (const Language language : {Language::Portuguese, Language::English, Language::Spanish})
+        if (const auto refused = message(trouble.what, language))
+            lines += refused->lines + QStringList{QString()};
+    std::fputs(qPrintable(u"tavimo-prelt: "_s + lines.join(u' ').simplified() + u'\n'), stderr);
+    showCritical(u"Tavimo Prelt"_s, lines);
 }

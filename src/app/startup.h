@@ -38,3 +38,6 @@ private:
 
 /// Says in three languages that the reference store is missing.
 void showStoreMissing(const QString &path);
+
+/// Says why the reference store cannot be worked with; its language is not known then.
+void showStoreRefused(const Trouble &trouble);

@@ -156,8 +156,7 @@ static Row gridRow(const EvaluatedRail &rail)
 static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
 {
     const RailRow &row = rail.row;
-    return {row.malha,          row.leitura,  row.refV, row.source, rail.deviation,
-            rail.rule, rail.verdict, screen,   rail.line};
+    return {row.malha, row.leitura, row.refV, row.source, rail.deviation, rail.rule, rail.verdict, screen, rail.line};
 }
 
 void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut)

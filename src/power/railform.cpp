@@ -239,6 +239,10 @@ void RailForm::paintHint()
 {
     const bool reading = screen().panel().fields.value(u"FrameVCore"_s).visible.value_or(false);
     const QStringView key = reading ? QStringView() : hintKey(screen());
-    m_hint->setText(key.isEmpty() ? QString() : text(key));
-    m_hint->setVisible(!key.isEmpty());
+    QStringList hints{m_rails.faultsElsewhere()};
+    if (!key.isEmpty())
+        hints.append(text(key));
+    hints.removeAll(QString());
+    m_hint->setText(hints.join(u"   "_s));
+    m_hint->setVisible(!hints.isEmpty());
 }

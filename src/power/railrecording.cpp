@@ -52,8 +52,7 @@ static QString kindCaption(const RailScreenTraits &traits, int kind)
     return {};
 }
 
-void RailScreen::writeSlotAfter(const QString &title, const QString &question, int slot,
-                                const QList<SlotText> &texts)
+void RailScreen::writeSlotAfter(const QString &title, const QString &question, int slot, const QList<SlotText> &texts)
 {
     const QString kind = caption(kindCaption(m_traits, m_kind));
     const QString target = u"%1 %2 · %3 · %4"_s.arg(caption(u"Gravação")).arg(slot).arg(kind, session().model());

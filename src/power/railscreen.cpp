@@ -10,7 +10,8 @@ static constexpr auto kBlinkInterval = 500ms;
 static constexpr int kBlinks = 10; ///< five seconds, then the note stays
 
 RailScreen::RailScreen(Session &session, const RailScreenTraits &traits, QObject *parent)
-    : ReadingScreen(session, traits.name, traits.code, kSelfTest, parent), m_traits(traits),
+    : ReadingScreen(session, traits.name, traits.code, kSelfTest, parent),
+      m_traits(traits),
       m_kind(traits.kinds.front().kind)
 {
     m_input.order = traits.loadOrder;
@@ -110,11 +111,23 @@ void RailScreen::goTo(const QString &what)
                 return chooseKind(kind.kind);
 }
 
-/// The faults of a kind that is not in front are told on its button.
+qsizetype RailScreen::faultsOf(const RailKind &kind) const
+{
+    return std::ranges::count(m_readings.value(kind.kind).panel.judgements, Verdict::Fail, &Judgement::verdict);
+}
+
+QString RailScreen::faultsElsewhere() const
+{
+    QStringList texts;
+    for (const RailKind &kind : m_traits.kinds)
+        if (const qsizetype faults = faultsOf(kind); faults > 0 && kind.kind != m_kind)
+            texts.append(caption(kind.caption) + ": "_L1 + caption(u"%1 com falha").arg(faults));
+    return texts.join(u' ');
+}
+
 QString RailScreen::kindText(const RailKind &kind) const
 {
-    const auto faults =
-        std::ranges::count(m_readings.value(kind.kind).panel.judgements, Verdict::Fail, &Judgement::verdict);
+    const qsizetype faults = faultsOf(kind);
     const QString text = caption(kind.caption);
     return faults == 0 ? text : u"%1  ✗ %2"_s.arg(text).arg(faults);
 }

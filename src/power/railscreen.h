@@ -20,6 +20,8 @@ public:
     void goTo(const QString &what) override;
 
     int kind() const { return m_kind; }
+    /// What a good verdict in front must not hide: the faults of the kinds that are not shown. Empty: there are none.
+    QString faultsElsewhere() const;
     void chooseKind(int kind);
     /// Texts of `ComboDecimais` and `ComboDecimaisAmp`; others are not taken.
     void ComboDecimais_Click(const QString &text);
@@ -64,6 +66,7 @@ private:
     QList<SlotText> shownReadings() const;
     void blinkNote();
     void storeReadings();
+    qsizetype faultsOf(const RailKind &kind) const;
     QString kindText(const RailKind &kind) const;
     QMap<QString, Field> state() const;
 

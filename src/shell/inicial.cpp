@@ -214,7 +214,7 @@ void Inicial::connectReconnector()
     connect(m_btReconectar, &QToolButton::clicked, m_reconnector, &Reconnector::reconnect);
     connect(m_reconnector, &Reconnector::withdrawn, m_btReconectar, &QToolButton::hide);
     connect(m_reconnector, &Reconnector::offered, this, [this](const QString &device) {
-        m_btReconectar->setText(text(u"Reconectar") + u": "_s + device);
+        m_btReconectar->setToolTip(device);
         m_btReconectar->show();
     });
 }
@@ -222,6 +222,7 @@ void Inicial::connectReconnector()
 void Inicial::showLog(bool open)
 {
     m_btLog->setChecked(open);
+    m_btLog->setIcon(lineIcon(u"log", open ? currentTheme().onAccent : currentTheme().text));
     m_drawer->setVisible(open);
 }
 
@@ -449,8 +450,9 @@ void Inicial::Traducao_Form_Inicial()
     m_menuButton->setToolTip(text(u"Ferramentas"));
     m_menuButton->setAccessibleName(text(u"Ferramentas"));
     m_drawer->Traducao_Form(m_session.language());
+    m_btReconectar->setText(text(u"Reconectar"));
     m_btLog->setText(text(u"Registro da comunicação"));
-    m_btLog->setIcon(lineIcon(u"log"));
+    showLog(m_btLog->isChecked());
     m_btLog->setToolTip(text(u"Registro da comunicação") + "  (F12)"_L1);
     m_emptyHint->setText(text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));
     buildMenu();

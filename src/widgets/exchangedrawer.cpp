@@ -33,10 +33,15 @@ static T *named(T *control, const QString &name)
 }
 
 ExchangeDrawer::ExchangeDrawer(ExchangeLog &log, QWidget *parent)
-    : QWidget(parent), m_log(log), m_text(named(new QPlainTextEdit, u"txtLog"_s)),
-      m_find(named(new QLineEdit, u"txtLocalizar"_s)), m_hit(new QLabel),
-      m_next(named(new QToolButton, u"btProximo"_s)), m_previous(named(new QToolButton, u"btAnterior"_s)),
-      m_copy(named(new QToolButton, u"btCopiarLog"_s)), m_save(named(new QToolButton, u"btSalvarLog"_s))
+    : QWidget(parent),
+      m_log(log),
+      m_text(named(new QPlainTextEdit, u"txtLog"_s)),
+      m_find(named(new QLineEdit, u"txtLocalizar"_s)),
+      m_hit(new QLabel),
+      m_next(named(new QToolButton, u"btProximo"_s)),
+      m_previous(named(new QToolButton, u"btAnterior"_s)),
+      m_copy(named(new QToolButton, u"btCopiarLog"_s)),
+      m_save(named(new QToolButton, u"btSalvarLog"_s))
 {
     setObjectName(u"FrameLog"_s);
     m_text->setReadOnly(true);
@@ -92,9 +97,8 @@ void ExchangeDrawer::Traducao_Form(Language language)
         QStringView icon;
         QStringView key;
     };
-    for (const auto &[button, icon, key] :
-         {Caption{m_copy, u"copy", u"Copiar"}, Caption{m_save, u"save", u"Salvar"},
-          Caption{m_next, u"", u"Próximo"}, Caption{m_previous, u"", u"Anterior"}}) {
+    for (const auto &[button, icon, key] : {Caption{m_copy, u"copy", u"Copiar"}, Caption{m_save, u"save", u"Salvar"},
+                                            Caption{m_next, u"", u"Próximo"}, Caption{m_previous, u"", u"Anterior"}}) {
         const QString text = caption(key, language);
         button->setToolTip(text);
         button->setAccessibleName(text);
@@ -163,8 +167,8 @@ QString ExchangeDrawer::opened(const Exchange &exchange)
 QString ExchangeDrawer::textOf(const Exchange &exchange)
 {
     QString text;
-    const QString visible = visibleText(QByteArrayView(exchange.bytes).first(
-        std::min<qsizetype>(exchange.bytes.size(), kBytesPerPaint)));
+    const QString visible =
+        visibleText(QByteArrayView(exchange.bytes).first(std::min<qsizetype>(exchange.bytes.size(), kBytesPerPaint)));
     for (const QChar c : visible) {
         if (c == u'\n') {
             text += m_openLine ? QString() : opened(exchange);
