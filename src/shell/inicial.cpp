@@ -7,9 +7,8 @@
 #include "icons.h"
 #include "modulerail.h"
 #include "moduletable.h"
-#include "plaintext.h"
-#include "plannedform.h"
 #include "reconnector.h"
+#include "screentabs.h"
 #include "sobre.h"
 #include "xidioma.h"
 
@@ -17,13 +16,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QProgressBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -42,7 +38,7 @@ Inicial::Inicial(const WindowParts &parts, QWidget *parent)
       m_ports(parts.ports),
       m_connectionBar(new ConnectionBar(parts.session)),
       m_rail(new ModuleRail),
-      m_tabs(new QTabWidget),
+      m_tabs(new ScreenTabs(parts.session)),
       m_splitter(new QSplitter(Qt::Vertical)),
       m_drawer(new ExchangeDrawer(parts.log)),
       m_btLog(new QToolButton),
@@ -99,12 +95,6 @@ QWidget *Inicial::topRow()
 
 QWidget *Inicial::content()
 {
-    m_tabs->setObjectName(u"Abas"_s);
-    m_tabs->setTabsClosable(true);
-    m_tabs->setMovable(true);
-    m_tabs->setDocumentMode(true);
-    m_tabs->tabBar()->setDrawBase(false);
-    m_tabs->tabBar()->installEventFilter(this);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_findings->setFixedWidth(kFindingsWidth);
     m_findings->setAutoFillBackground(true);
@@ -171,14 +161,12 @@ void Inicial::connectWindow()
 {
     connect(m_connectionBar, &ConnectionBar::portsWanted, this, &Inicial::listPorts);
     connect(m_connectionBar, &ConnectionBar::connectPressed, this, [this] { Botoes_Click(1); });
-    connect(m_rail, &ModuleRail::screenPressed, this, &Inicial::openScreen);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &Inicial::paintTabs);
-    connect(m_tabs, &QTabWidget::tabCloseRequested, this, &Inicial::closeTab);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this,
-            [this] { closeTab(m_tabs->currentIndex()); });
+    connect(m_rail, &ModuleRail::screenPressed, m_tabs, &ScreenTabs::open);
+    connect(m_tabs, &ScreenTabs::changed, this, &Inicial::paintTabs);
+    connect(m_tabs, &ScreenTabs::formOpened, this, &Inicial::connectForm);
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, m_findingsButton, &QToolButton::click);
     connect(m_findings, &FindingsPanel::countChanged, this, &Inicial::paintFindings);
-    connect(m_findings, &FindingsPanel::findingChosen, this, &Inicial::goTo);
+    connect(m_findings, &FindingsPanel::findingChosen, m_tabs, &ScreenTabs::goTo);
     connect(m_btLog, &QToolButton::toggled, this, &Inicial::showLog);
     connect(new QShortcut(Qt::Key_F12, this), &QShortcut::activated, m_btLog, &QToolButton::click);
     connect(m_drawer, &ExchangeDrawer::saveFailed, this,
@@ -226,37 +214,28 @@ void Inicial::showLog(bool open)
     m_drawer->setVisible(open);
 }
 
-QWidget *Inicial::page(const QString &name) const
-{
-    for (int i = 0; i < m_tabs->count(); ++i)
-        if (m_tabs->widget(i)->objectName() == name)
-            return m_tabs->widget(i);
-    return nullptr;
-}
-
 void Inicial::openScreen(const QString &name)
 {
-    if (!page(name))
-        addForm(name);
-    m_tabs->setCurrentWidget(page(name));
-    paintTabs();
+    m_tabs->open(name);
 }
 
-void Inicial::goTo(const QString &screen, const QString &what)
+void Inicial::readScreen(const QString &name)
 {
-    openScreen(screen);
-    if (auto *form = qobject_cast<ScreenForm *>(page(screen)))
-        form->goTo(what);
+    if (ScreenForm *form = m_tabs->form(name))
+        form->screen().read();
+}
+
+void Inicial::connectForm(ScreenForm *form)
+{
+    connect(&form->screen(), &Screen::screenRequested, m_tabs, &ScreenTabs::open);
+    connect(&form->screen(), &Screen::judged, this, [this, form] { m_findings->add(form->screen().judgements()); });
+    connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
+    connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
 }
 
 WindowState Inicial::state() const
 {
-    WindowState now{saveGeometry(), {}, {}, m_connectionBar->port()};
-    for (int i = 0; i < m_tabs->count(); ++i)
-        now.screens.append(m_tabs->widget(i)->objectName());
-    if (m_tabs->currentWidget())
-        now.front = m_tabs->currentWidget()->objectName();
-    return now;
+    return {saveGeometry(), m_tabs->names(), m_tabs->frontName(), m_connectionBar->port()};
 }
 
 void Inicial::restore(const WindowState &state)
@@ -266,41 +245,8 @@ void Inicial::restore(const WindowState &state)
         m_connectionBar->setPort(state.port);
     for (const QString &screen : state.screens)
         openScreen(screen);
-    if (page(state.front))
+    if (!state.front.isEmpty())
         openScreen(state.front);
-}
-
-void Inicial::addForm(const QString &name)
-{
-    const Module *module = moduleNamed(name);
-    if (!module)
-        return;
-    ScreenForm *form = makeForm(name, m_session);
-    QWidget *page = form ? static_cast<QWidget *>(form) : new PlannedForm(*module, m_session);
-    m_tabs->addTab(page, plainText(text(module->caption)));
-    if (!form)
-        return;
-    form->CarregaDados();
-    connect(&form->screen(), &Screen::screenRequested, this, &Inicial::openScreen);
-    connect(&form->screen(), &Screen::judged, this, [this, form] { m_findings->add(form->screen().judgements()); });
-    connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
-    connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
-}
-
-void Inicial::readScreen(const QString &name)
-{
-    if (auto *form = qobject_cast<ScreenForm *>(page(name)))
-        form->screen().read();
-}
-
-void Inicial::closeTab(int index)
-{
-    QWidget *page = m_tabs->widget(index);
-    if (!page)
-        return;
-    m_tabs->removeTab(index);
-    delete page; // at once: its screen must not take a late reply
-    paintTabs();
 }
 
 void Inicial::listPorts()
@@ -344,7 +290,7 @@ void Inicial::paintStatus()
 /// How far the screen in front is, while a command is in flight.
 void Inicial::paintProgress()
 {
-    const auto *form = qobject_cast<ScreenForm *>(m_tabs->currentWidget());
+    const ScreenForm *form = m_tabs->frontForm();
     const Field bar = form ? form->screen().panel().fields.value(u"Barra"_s) : Field();
     m_progress->setValue(bar.value.value_or(0));
     m_progress->setVisible(m_session.Status() == "3"_L1 && bar.value);
@@ -363,15 +309,9 @@ void Inicial::paintModel()
 
 void Inicial::paintTabs()
 {
-    const QWidget *current = m_tabs->currentWidget();
-    m_rail->mark(current ? current->objectName() : QString());
+    m_rail->mark(m_tabs->frontName());
     m_rail->Traducao_Form(m_session.language(), m_session.model());
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        const Module *module = moduleNamed(m_tabs->widget(i)->objectName());
-        m_tabs->setTabText(i, plainText(text(module->caption)));
-        m_tabs->setTabToolTip(i, text(u"Fechar aba") + "  (Ctrl+W)"_L1);
-        m_tabs->setTabIcon(i, lineIcon(QString(module->icon)));
-    }
+    m_tabs->Traducao_Form();
     m_tabs->setVisible(m_tabs->count() > 0);
     m_emptyHint->setVisible(m_tabs->count() == 0);
     paintProgress();
@@ -402,14 +342,6 @@ void Inicial::foldFindings()
         m_middle->addWidget(m_findings);
     else
         layFindingsOver();
-}
-
-bool Inicial::eventFilter(QObject *watched, QEvent *event)
-{
-    const auto *click = event->type() == QEvent::MouseButtonRelease ? static_cast<QMouseEvent *>(event) : nullptr;
-    if (watched == m_tabs->tabBar() && click && click->button() == Qt::MiddleButton)
-        closeTab(m_tabs->tabBar()->tabAt(click->pos()));
-    return QMainWindow::eventFilter(watched, event);
 }
 
 void Inicial::resizeEvent(QResizeEvent *event)

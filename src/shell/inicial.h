@@ -1,7 +1,6 @@
 #pragma once
 
 #include "exchangelog.h"
-#include "formtable.h"
 #include "portlist.h"
 #include "session.h"
 #include "theme.h"
@@ -20,10 +19,10 @@ class QLabel;
 class QMenu;
 class QProgressBar;
 class QSplitter;
-class QTabWidget;
 class QToolButton;
 class Reconnector;
 class ScreenForm;
+class ScreenTabs;
 
 /// What the window works with.
 struct WindowParts
@@ -64,7 +63,6 @@ signals:
     void importWanted();
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -74,11 +72,9 @@ private:
     void connectSession();
     void connectWindow();
     void connectReconnector();
-    QWidget *page(const QString &name) const;
-    void goTo(const QString &screen, const QString &what);
     void openAbout();
     void buildMenu();
-    void addForm(const QString &name);
+    void connectForm(ScreenForm *form);
     void listPorts();
     void tellStoreTrouble(const Trouble &trouble);
     void paintStatus();
@@ -88,7 +84,6 @@ private:
     void paintFindings();
     void foldFindings();
     void layFindingsOver();
-    void closeTab(int index);
     void retheme(ThemeChoice choice);
     QString text(QStringView key) const;
 
@@ -96,7 +91,7 @@ private:
     std::function<QList<PortEntry>()> m_ports;
     ConnectionBar *m_connectionBar;
     ModuleRail *m_rail;
-    QTabWidget *m_tabs;
+    ScreenTabs *m_tabs;
     QSplitter *m_splitter;
     ExchangeDrawer *m_drawer;
     QToolButton *m_btLog;
