@@ -40,6 +40,10 @@ Startup::Startup(const StartOptions &options)
 
 Startup::~Startup()
 {
+    QObject::connect(&m_session, &Session::storeFailed, &m_window, [](const Trouble &trouble) {
+        std::fputs(qPrintable(u"tavimo-prelt: not kept: "_s + trouble.what.arguments.join(u' ') + u'\n'), stderr);
+    });
+    m_store.finish();
     if (!keepWindowState(m_window.state(), stateFile()))
         std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(stateFile())), stderr);
 }

@@ -19,6 +19,12 @@ void StoreQueue::TimerStore_Timer()
     work();
 }
 
+void StoreQueue::finish()
+{
+    m_patience = kPatience;
+    work();
+}
+
 void StoreQueue::add(Attempt attempt)
 {
     m_waiting.push_back(std::move(attempt));

@@ -42,6 +42,9 @@ public:
         });
     }
 
+    /// Works off what still waits, blocking: the program is about to end and nothing may be lost in silence.
+    void finish();
+
 public slots:
     /// Tries the waiting work again.
     void TimerStore_Timer();
