@@ -150,7 +150,10 @@ void Inicial::connectSession()
     connect(&m_session, &Session::refused, this, [this](const Notice &why) { showNotice({why}); });
     connect(&m_session, &Session::storeFailed, this, &Inicial::tellStoreTrouble);
     connect(&m_session, &Session::linkLost, this, [this] { showNotice({{u"LINK_LOST"_s}}); });
-    connect(&m_session, &Session::connectionSettled, this, [this] { m_notice->clear(); });
+    connect(&m_session, &Session::connectionSettled, this, [this] {
+        if (m_session.isModelKnown())
+            m_notice->clear();
+    });
     connect(&m_session, &Session::modelMissing, this, [this] {
         showNotice({{u"REFUSED_NO_MODEL"_s}});
         m_connectionBar->focusModel();
@@ -161,6 +164,9 @@ void Inicial::connectWindow()
 {
     connect(m_connectionBar, &ConnectionBar::portsWanted, this, &Inicial::listPorts);
     connect(m_connectionBar, &ConnectionBar::connectPressed, this, [this] { Botoes_Click(1); });
+    m_rail->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_rail, &ModuleRail::customContextMenuRequested, this,
+            [this](const QPoint &place) { m_menu->popup(m_rail->mapToGlobal(place)); });
     connect(m_rail, &ModuleRail::screenPressed, m_tabs, &ScreenTabs::open);
     connect(m_tabs, &ScreenTabs::changed, this, &Inicial::paintTabs);
     connect(m_tabs, &ScreenTabs::formOpened, this, &Inicial::connectForm);
