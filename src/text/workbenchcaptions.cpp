@@ -128,6 +128,7 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"Copiar", u"Copiar", u"Copy", u"Copiar"},
     {u"Copiar tudo", u"Copiar tudo", u"Copy all", u"Copiar todo"},
     {u"Exportar CSV", u"Exportar CSV", u"Export CSV", u"Exportar CSV"},
+    {u"Salvar registro", u"Salvar registro", u"Save log", u"Guardar registro"},
     {u"Próximo", u"Próximo", u"Next", u"Siguiente"},
     {u"Anterior", u"Anterior", u"Previous", u"Anterior"},
     {u"Localizar", u"Localizar", u"Find", u"Buscar"},

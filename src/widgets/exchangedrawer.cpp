@@ -97,8 +97,9 @@ void ExchangeDrawer::Traducao_Form(Language language)
         QStringView icon;
         QStringView key;
     };
-    for (const auto &[button, icon, key] : {Caption{m_copy, u"copy", u"Copiar"}, Caption{m_save, u"save", u"Salvar"},
-                                            Caption{m_next, u"", u"Próximo"}, Caption{m_previous, u"", u"Anterior"}}) {
+    for (const auto &[button, icon, key] :
+         {Caption{m_copy, u"copy", u"Copiar"}, Caption{m_save, u"save", u"Salvar registro"},
+          Caption{m_next, u"", u"Próximo"}, Caption{m_previous, u"", u"Anterior"}}) {
         const QString text = caption(key, language);
         button->setToolTip(text);
         button->setAccessibleName(text);
@@ -216,7 +217,7 @@ void ExchangeDrawer::keyPressEvent(QKeyEvent *event)
 
 void ExchangeDrawer::save()
 {
-    auto *dialog = new QFileDialog(this, caption(u"Salvar", m_language), u"tavimo-prelt.log"_s);
+    auto *dialog = new QFileDialog(this, caption(u"Salvar registro", m_language), u"tavimo-prelt.log"_s);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(u"log"_s);
