@@ -47,7 +47,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(u"tavimo-prelt"_s);
     QApplication::setApplicationVersion(u"2.22"_s);
-    const StartOptions options = startOptions(app);
+    const StartOptions options = startOptions(QApplication::arguments());
     applyTheme(app, options.theme);
     QSplashScreen splash(programIcon().pixmap(192));
     showSplash(splash);

@@ -42,7 +42,7 @@ static ThemeChoice themeChoice(const QString &typed)
     complain(u"no theme \"%1\"; the themes are: light, dark"_s.arg(typed));
 }
 
-StartOptions startOptions(const QCoreApplication &application)
+StartOptions startOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Reads and judges phone logic boards over a serial Box."_s);
@@ -55,7 +55,7 @@ StartOptions startOptions(const QCoreApplication &application)
                        {u"read"_s, u"start the screen's reading once the phone is connected"_s},
                        {u"log"_s, u"open the exchange log"_s},
                        {u"theme"_s, u"light or dark (else as the desktop)"_s, u"THEME"_s}});
-    if (!parser.parse(application.arguments()))
+    if (!parser.parse(arguments))
         complain(parser.errorText());
     if (parser.isSet(u"help"_s))
         parser.showHelp();

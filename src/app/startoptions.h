@@ -2,8 +2,8 @@
 
 #include "theme.h"
 
-#include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 /// What the window is told at its start.
 struct StartOptions
@@ -18,4 +18,4 @@ struct StartOptions
 };
 
 /// The options of the command line. Ends the program after help, or after a complaint with code 2.
-StartOptions startOptions(const QCoreApplication &application);
+StartOptions startOptions(const QStringList &arguments);

@@ -110,7 +110,7 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
         addPort(*live, arguments.common);
     }
     addText(*send, "command", arguments.text, "the command line")->required()->check([](const std::string &text) {
-        return text.find_first_not_of(" ") == std::string::npos ? "it is empty" : "";
+        return text.find_first_not_of(' ') == std::string::npos ? "it is empty" : "";
     });
 
     CLI::App *run = app.add_subcommand("run", "ask the phone, judge, print");
@@ -143,6 +143,12 @@ const CLI::App &innermost(const CLI::App &app)
     return chosen.empty() ? app : innermost(*chosen.front());
 }
 
+/// The words that lead to a command, the program's name first.
+std::string fullName(const CLI::App &app)
+{
+    return app.get_parent() ? fullName(*app.get_parent()) + ' ' + app.get_name() : app.get_name();
+}
+
 /// What is wrong in one line, with the help that fits.
 std::string complaint(const CLI::App *app, const CLI::Error &error)
 {
@@ -151,10 +157,7 @@ std::string complaint(const CLI::App *app, const CLI::Error &error)
     const bool noSuchCommand = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
                                !where.get_subcommands({}).empty() && !unknown.empty();
     const std::string what = noSuchCommand ? "No such command: " + unknown.front() : error.what();
-    std::string name = where.get_name();
-    for (const CLI::App *parent = where.get_parent(); parent; parent = parent->get_parent())
-        name = parent->get_name() + ' ' + name;
-    return "prelt: " + what + ". Try: " + name + " --help\n";
+    return "prelt: " + what + ". Try: " + fullName(where) + " --help\n";
 }
 
 } // namespace

@@ -105,10 +105,11 @@ QList<Judgement> RailScreen::judgements() const
 
 void RailScreen::goTo(const QString &what)
 {
-    for (const RailKind &kind : m_traits.kinds)
-        for (const Judgement &judgement : m_readings.value(kind.kind).panel.judgements)
-            if (judgement.what == what)
-                return chooseKind(kind.kind);
+    for (const RailKind &kind : m_traits.kinds) {
+        const QList<Judgement> all = m_readings.value(kind.kind).panel.judgements;
+        if (std::ranges::find(all, what, &Judgement::what) != all.end())
+            return chooseKind(kind.kind);
+    }
 }
 
 qsizetype RailScreen::faultsOf(const RailKind &kind) const
@@ -119,9 +120,11 @@ qsizetype RailScreen::faultsOf(const RailKind &kind) const
 QString RailScreen::faultsElsewhere() const
 {
     QStringList texts;
-    for (const RailKind &kind : m_traits.kinds)
-        if (const qsizetype faults = faultsOf(kind); faults > 0 && kind.kind != m_kind)
+    for (const RailKind &kind : m_traits.kinds) {
+        const qsizetype faults = kind.kind == m_kind ? 0 : faultsOf(kind);
+        if (faults > 0)
             texts.append(caption(kind.caption) + ": "_L1 + caption(u"%1 com falha").arg(faults));
+    }
     return texts.join(u' ');
 }
 
@@ -138,10 +141,11 @@ QMap<QString, Field> RailScreen::state() const
     QMap<QString, Field> fields;
     for (const auto &name : {u"Frame1"_s, u"ComboDecimais"_s, u"ComboDecimaisAmp"_s, u"Botao3"_s, u"Botao4"_s})
         fields.insert(name, control);
-    for (const RailKind &kind : m_traits.kinds)
+    for (const RailKind &kind : m_traits.kinds) {
+        const Field button{.text = kindText(kind), .enabled = !isReading(), .checked = m_kind == kind.kind};
         if (!kind.control.isEmpty())
-            fields[kind.control.toString()] = {
-                .text = kindText(kind), .enabled = !isReading(), .checked = m_kind == kind.kind};
+            fields.insert(kind.control.toString(), button);
+    }
     fields[u"FrameVCore"_s] = {.visible = isReading()};
     fields[u"Barra"_s] = {.value = m_progress};
     fields[u"lbVar"_s] = m_readings.value(m_kind).panel.fields.value(u"lbVar"_s);

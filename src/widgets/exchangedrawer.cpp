@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 
 static constexpr auto kPaintInterval = 80ms;
 /// What one painting takes in; of a flood the newest is shown, all of it is in the file.
-static constexpr qsizetype kBytesPerPaint = 32 * 1024;
+static constexpr qsizetype kBytesPerPaint = 32768;
 static constexpr int kLinesShown = 10000;
 /// Text without line ends is broken: endless lines cost the square of their length to lay out.
 static constexpr qsizetype kLongestLine = 1000;
