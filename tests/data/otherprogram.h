@@ -10,6 +10,11 @@
 #include <QSqlQuery>
 #include <QTest>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 /// A connection beside the store's own, as another program has it.
 class OtherProgram
 {
@@ -52,6 +57,17 @@ public:
         return rows.join(u'|');
     }
 
+    /// Copies the store as a writer leaves it that was killed: with its journal.
+    void leaveUnfinished(const QString &copy)
+    {
+        const QString path = QSqlDatabase::database(name()).databaseName();
+        runAll({QStringLiteral("PRAGMA cache_size = 2"), QStringLiteral("BEGIN"),
+                QStringLiteral("Update Master set G1 = hex(zeroblob(300))")});
+        for (const QString &end : {QString(), QStringLiteral("-journal")})
+            QVERIFY(QFile::copy(path + end, copy + end));
+        run(QStringLiteral("ROLLBACK"));
+    }
+
 private:
     static QString name() { return QStringLiteral("other"); }
 };
@@ -71,4 +87,22 @@ inline QMap<QString, QByteArray> contentsOf(const QString &folder)
         contents.insert(name, file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("unreadable"));
     }
     return contents;
+}
+
+/// What comes of work on a disk that takes a part of a store and then no more.
+template <typename Work>
+auto onTightDisk(const Work &work)
+{
+#ifdef Q_OS_UNIX
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit tight{60000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const auto outcome = work();
+    setrlimit(RLIMIT_FSIZE, &before);
+    return outcome;
+#else
+    return work();
+#endif
 }
