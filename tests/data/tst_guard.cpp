@@ -1,4 +1,5 @@
 #include "backups.h"
+#include "columns.h"
 #include "csv.h"
 #include "otherprogram.h"
 #include "queries.h"
@@ -11,11 +12,6 @@
 
 #include <QTemporaryDir>
 
-#include <csignal>
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#endif
-
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -25,34 +21,369 @@ class tst_guard : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { QVERIFY(createStore(m_master.filePath(u"Config.pmx"_s))); }
 
-    void refused_data();
-    void refused();
-    void brokenFiles_data();
-    void brokenFiles();
-    void unfinishedWriteIsLeftAlone();
-    void findingsAreFitToBeShown();
-    void olderStoreGetsItsTables();
+    void init()
+    {
+        m_folder.emplace();
+        QVERIFY(QFile::copy(m_master.filePath(u"Config.pmx"_s), path()));
+    }
 
-    void recordingComesBack_data();
-    void recordingComesBack();
-    void noPairTwice();
-    void whoWroteTheRecording();
-    void everyFlippedBitShows();
-    void fullDiskKeepsTheRecording();
+    void cleanup() { QCOMPARE(QSqlDatabase::connectionNames(), QStringList()); }
 
-    void backupsRoll();
-    void failingBackupLeavesNothing();
-    void backupNeverOverwrites();
+    void refused_data()
+    {
+        columns<QStringList, QString, QString>({"made", "quick", "whole"});
+        const auto row = [](const char *name, const QStringList &made, const QString &quick, const QString &whole) {
+            QTest::newRow(name) << made << quick << whole;
+        };
+        const QString fine = u"done"_s;
+        const QString foreign = u"STORE_FOREIGN"_s;
+        row("as it ships", {}, fine, fine);
+        row("a trigger that wipes", {u"create trigger t after insert on Dados begin delete from Master; end"_s},
+            foreign, foreign);
+        row("Master is a view",
+            {u"alter table Master rename to X"_s, u"create view Master as select rowid, * from X"_s}, foreign, foreign);
+        row("a virtual table", {u"create virtual table v using rtree(a, b, c)"_s}, foreign, foreign);
+        row("of another program", {u"PRAGMA application_id = 252006673"_s}, foreign, foreign);
+        row("no mark at all", {u"PRAGMA application_id = 0"_s, u"PRAGMA user_version = 0"_s}, fine, fine);
+        row("of a later version", {u"PRAGMA user_version = 2"_s}, u"STORE_NEWER"_s, u"STORE_NEWER"_s);
+        row("a column is gone", {u"alter table Master drop column G3"_s}, foreign, foreign);
+        row("a table is gone", {u"drop table Comandos"_s}, foreign, foreign);
+        row("texts turned to numbers",
+            {u"alter table Comandos drop column Info2"_s, u"alter table Comandos add column Info2 integer"_s}, foreign,
+            foreign);
+        row("a column that computes",
+            {u"alter table Comandos drop column Info3"_s,
+             u"alter table Comandos add column Info3 text as (hex(zeroblob(900))) virtual"_s},
+            foreign, foreign);
+        row("a huge text", {u"Update Master set G1 = hex(zeroblob(40000)) Where rowid = 3"_s}, fine, foreign);
+        row("bytes for a text", {u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'x', x'00ff')"_s}, fine,
+            foreign);
+        row("a text for a number", {u"Update Master set TIPO = 'two' Where rowid = 3"_s}, fine, foreign);
+        row("rows without end",
+            {u"Insert into Comandos (Comando) with recursive n(i) as (select 1 union all select i + 1 from n where i < "
+             "20001) select i from n"_s},
+            fine, foreign);
+        row("write-ahead log", {u"PRAGMA journal_mode = WAL"_s}, fine, fine);
+    }
 
-    void csvCells_data();
-    void csvCells();
-    void exportRefusesToOverwrite();
-    void namedSettings_data();
-    void namedSettings();
+    void refused()
+    {
+        QFETCH(QStringList, made);
+        QFETCH(QString, whole);
+        OtherProgram(path()).runAll(made);
+        const auto before = contentsOf(m_folder->path());
+        QTEST(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Quick)), "quick");
+        const Result<Done> outcome = inspectStore(path(), StoreRole::Reference, Depth::Whole);
+        QCOMPARE(keyOf(outcome), whole);
+        QCOMPARE(contentsOf(m_folder->path()), before);
+        if (outcome)
+            return;
+        QCOMPARE(outcome.trouble().what.arguments.value(0), QDir::toNativeSeparators(path()));
+        QVERIFY(!outcome.trouble().what.arguments.value(1).isEmpty());
+    }
+
+    void brokenFiles_data()
+    {
+        columns<int, QByteArray, int, QString>({"from", "bytes", "size", "key"});
+        QTest::newRow("another kind of file")
+            << 0 << QByteArray("\x00\x01\x00\x00Standard Jet DB", 19) << -1 << u"STORE_FOREIGN"_s;
+        QTest::newRow("nothing in it") << 0 << QByteArray() << 0 << u"STORE_DAMAGED"_s;
+        QTest::newRow("cut in the head") << 0 << QByteArray() << 50 << u"STORE_DAMAGED"_s;
+        QTest::newRow("cut in the middle") << 0 << QByteArray() << 20480 << u"STORE_DAMAGED"_s;
+        QTest::newRow("the schema overwritten") << 100 << QByteArray(3000, '\xa5') << -1 << u"STORE_DAMAGED"_s;
+        QTest::newRow("a page overwritten") << 16384 << QByteArray(4096, '\x5a') << -1 << u"STORE_DAMAGED"_s;
+    }
+
+    void brokenFiles()
+    {
+        QFETCH(int, from);
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, size);
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(from) && file.write(bytes) == bytes.size());
+        QVERIFY(size < 0 || file.resize(size));
+        file.close();
+        const auto before = contentsOf(m_folder->path());
+        QTEST(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Whole)), "key");
+        QCOMPARE(contentsOf(m_folder->path()), before);
+    }
+
+    void unfinishedWriteIsLeftAlone()
+    {
+        QTemporaryDir killed;
+        const QString copy = killed.filePath(u"Config.pmx"_s);
+        OtherProgram other(path());
+        other.leaveUnfinished(copy);
+        const auto before = contentsOf(killed.path());
+        QCOMPARE(before.size(), 2);
+        QCOMPARE(keyOf(inspectStore(copy, StoreRole::Reference, Depth::Whole)), u"done"_s);
+        QCOMPARE(contentsOf(killed.path()), before);
+
+        other.run(u"BEGIN EXCLUSIVE"_s);
+        QCOMPARE(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Quick)), u"STORE_LOCKED"_s);
+    }
+
+    void findingsAreFitToBeShown()
+    {
+        OtherProgram(path()).runAll({u"Insert into Tools default values"_s, u"Delete from Combos"_s,
+                                     u"Insert into Dados (Aparelho, Comando) values ('IP 7', char(27) || '[2J'), "
+                                     "('ip 7', char(27) || '[2j')"_s});
+        const auto findings = storeFindings(path(), StoreRole::Reference, Depth::Whole);
+        QVERIFY(findings);
+        QStringList lines;
+        for (const StoreFinding &finding : *findings)
+            lines += finding.where + u": "_s + finding.what;
+        QCOMPARE(lines, (QStringList{u"Tools: 2 rows instead of one"_s, u"Combos: 0 rows instead of one"_s,
+                                     u"Dados: 2 recordings of IP 7: ␛[2J"_s}));
+    }
+
+    void olderStoreGetsItsTables()
+    {
+        OtherProgram other(path());
+        other.runAll({u"drop table RecordingHash"_s, u"drop table Settings"_s,
+                      u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'old', 'reply')"_s});
+        {
+            const Store reader = std::move(*Store::open(path(), Store::Access::Read, 0ms));
+            QCOMPARE((*recordingFor(reader, u"IP 7"_s, u"old"_s))->integrity, Integrity::Unverified);
+        }
+        Store writer = store();
+        QVERIFY(setSetting(writer, u"a"_s, u"b"_s));
+        QVERIFY(saveRecording(writer, {u"IP 7"_s, u"old"_s, u"again"_s}));
+        QVERIFY((*recordingFor(writer, u"IP 7"_s, u"OLD"_s))->intact());
+    }
+
+    void recordingComesBack_data()
+    {
+        QTest::addColumn<QString>("reply");
+        QTest::newRow("line ends of every kind") << u"a\r\nb\nc\r"_s;
+        QTest::newRow("a NUL in the middle") << u"a\0b"_s;
+        QTest::newRow("every byte") << [] {
+            QString all;
+            for (char16_t byte = 0; byte < 256; ++byte)
+                all += QChar(byte);
+            return all;
+        }();
+        QTest::newRow("looks like a number") << u"007.10"_s;
+        QTest::newRow("long") << QString(300000, u'ÿ');
+        QTest::newRow("notes alone") << u""_s;
+    }
+
+    void recordingComesBack()
+    {
+        QFETCH(QString, reply);
+        const Recording recording{u"IP 7"_s, u"pmuadc --read all"_s, reply, u"nota"_s, u"note"_s, u"ño"_s};
+        Store writer = store();
+        QVERIFY(saveRecording(writer, recording));
+        const auto kept = recordingFor(writer, recording.aparelho, recording.comando);
+        QVERIFY(kept && *kept);
+        QCOMPARE((*kept)->recording, recording);
+        QVERIFY((*kept)->intact());
+    }
+
+    void noPairTwice()
+    {
+        OtherProgram other(path());
+        other.run(u"Insert into Dados (Aparelho, Comando, Dados, Info) values ('IP 7', 'a', '', 'kept')"_s);
+        Store writer = store();
+        QVERIFY(saveRecording(writer, {u"IP 7"_s, u"a"_s, u"filled"_s}));
+        QVERIFY(saveRecording(writer, {u"ip 7"_s, u"A"_s, u"other letters"_s}));
+        QVERIFY(saveRecording(writer, {u"IP 7 "_s, u"a"_s, u"another model"_s}));
+        QCOMPARE(other.text(u"Select Comando || Dados from Dados order by rowid"_s),
+                 u"aother letters|aanother model"_s);
+        QCOMPARE(other.text(u"Select count(*) from RecordingHash"_s), u"2"_s);
+        QVERIFY(deleteRecording(writer, {u"IP 7"_s, u"a"_s}));
+        QVERIFY(!*recordingFor(writer, u"IP 7"_s, u"a"_s));
+        QCOMPARE(other.text(u"Select Aparelho from Dados"_s), u"IP 7 "_s);
+        QCOMPARE(other.text(u"Select Aparelho from RecordingHash"_s), u"IP 7 "_s);
+    }
+
+    void whoWroteTheRecording()
+    {
+        {
+            Store writer = store();
+            QVERIFY(saveRecording(writer, {u"IP 7"_s, u"ours"_s, u"reply"_s}));
+            QVERIFY(saveRecording(writer, {u"IP 7"_s, u"changed"_s, u"reply"_s}));
+        }
+        OtherProgram(path()).runAll(
+            {u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'theirs', 'reply')"_s,
+             u"Update Dados set Dados = 'Reply' Where Comando = 'changed'"_s});
+        QCOMPARE(integrity(u"ours"_s), Integrity::Intact);
+        QCOMPARE(integrity(u"theirs"_s), Integrity::Unverified);
+        QCOMPARE(integrity(u"changed"_s), Integrity::Changed);
+        const auto findings = storeFindings(path(), StoreRole::Reference, Depth::Whole);
+        QCOMPARE(findings->size(), 1);
+        QCOMPARE(findings->first().what, u"the recording IP 7: changed changed since it was saved"_s);
+    }
+
+    // The engine's own check knows pages and trees; a flipped bit inside a text is as good to it as any other text.
+    void everyFlippedBitShows()
+    {
+        const QString reply = u"BIST buck3: 1200.0000 mV é "_s.repeated(20);
+        {
+            Store writer = store();
+            QVERIFY(saveRecording(writer, {u"IP 7"_s, u"flip"_s, reply}));
+        }
+        const QByteArray whole = contentsOf(m_folder->path()).value(u"Config.pmx"_s);
+        const QByteArray stored = reply.toUtf8();
+        const qsizetype begin = whole.indexOf(stored);
+        QVERIFY(begin > 0);
+        for (qsizetype place = 0; place < stored.size(); place += 3) {
+            QByteArray flipped = whole;
+            flipped[begin + place] = static_cast<char>(flipped[begin + place] ^ (1 << (place % 8)));
+            QFile file(path());
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(flipped) == flipped.size());
+            file.close();
+            QVERIFY2(integrity(u"flip"_s) == Integrity::Changed, qPrintable(QString::number(place)));
+        }
+    }
+
+    void fullDiskKeepsTheRecording()
+    {
+        Store writer = store();
+        const Recording good{u"IP 7"_s, u"a"_s, u"good"_s};
+        QVERIFY(saveRecording(writer, good));
+        QVERIFY(writer.run({"Limit", "PRAGMA max_page_count = 1"})); // the engine lowers it to what there is
+        QCOMPARE(keyOf(saveRecording(writer, {u"IP 7"_s, u"a"_s, QString(200000, u'x')})), u"STORE_FULL"_s);
+        QCOMPARE(keyOf(saveRecording(writer, {u"IP 7"_s, u"b"_s, QString(200000, u'x')})), u"STORE_FULL"_s);
+        QCOMPARE((*recordingFor(writer, u"IP 7"_s, u"a"_s))->recording, good);
+        QVERIFY((*recordingFor(writer, u"IP 7"_s, u"a"_s))->intact());
+        QVERIFY(!*recordingFor(writer, u"IP 7"_s, u"b"_s));
+    }
+
+    void backupsRoll()
+    {
+        const auto models = [this](int number) {
+            const QString backup = m_folder->filePath(u"backups/Config.pmx.bak%1"_s.arg(number));
+            const Result<Store> kept = Store::open(backup, Store::Access::Read, 0ms);
+            return kept ? *lastModel(*kept) : u"(none)"_s;
+        };
+        const auto choose = [this](const QString &model) {
+            Store writer = store();
+            return bool(rememberModel(writer, model));
+        };
+        QCOMPARE(*rollBackups(path(), 2), true);
+        QCOMPARE(*rollBackups(path(), 2), false);
+        QVERIFY(choose(u"IP 6"_s));
+        QCOMPARE(*rollBackups(path(), 2), true);
+        QVERIFY(choose(u"IP 6"_s)); // written again, the same
+        QCOMPARE(*rollBackups(path(), 2), false);
+        QVERIFY(choose(u"IP 7"_s));
+        QCOMPARE(*rollBackups(path(), 2), true);
+        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
+        QCOMPARE(contentsOf(backupFolder(path())).keys(), (QStringList{u"Config.pmx.bak1"_s, u"Config.pmx.bak2"_s}));
+
+        QVERIFY(QFile::remove(m_folder->filePath(u"backups/Config.pmx.bak1"_s))); // a gap is no hindrance
+        QCOMPARE(*rollBackups(path(), 2), true);
+        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
+        OtherProgram(path()).run(u"PRAGMA application_id = 252006673"_s);
+        QCOMPARE(keyOf(rollBackups(path(), 2)), u"BACKUP_FAILED"_s);
+        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
+    }
+
+    void failingBackupLeavesNothing()
+    {
+        QFile blocking(m_folder->filePath(u"backups"_s));
+        QVERIFY(blocking.open(QIODevice::WriteOnly));
+        QCOMPARE(keyOf(rollBackups(path())), u"BACKUP_FAILED"_s);
+        QVERIFY(blocking.remove());
+        const auto backUp = [this] {
+            return keyOf(rollBackups(path())) + u' ' + keyOf(backupStore(path(), m_folder->filePath(u"copy.pmx"_s)));
+        };
+        const QString keys = onTightDisk(backUp);
+        QVERIFY2(keys.startsWith(u"BACKUP_FAILED STORE_F"_s), qPrintable(keys));
+        QCOMPARE(contentsOf(m_folder->path()).keys(), QStringList(u"Config.pmx"_s));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList(u"backups"_s));
+        QCOMPARE(QDir(backupFolder(path())).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+                 QStringList());
+    }
+
+    void backupNeverOverwrites()
+    {
+        const QString target = m_folder->filePath(u"deep/folder/copy.pmx"_s);
+        QCOMPARE(keyOf(backupStore(path(), target)), u"done"_s);
+        const auto before = contentsOf(m_folder->filePath(u"deep/folder"_s));
+        QCOMPARE(before.keys(), QStringList(u"copy.pmx"_s));
+        QCOMPARE(keyOf(backupStore(path(), target)), u"STORE_EXISTS"_s);
+        QCOMPARE(keyOf(backupStore(m_folder->filePath(u"none"_s), m_folder->filePath(u"b"_s))), u"STORE_MISSING"_s);
+        QCOMPARE(contentsOf(m_folder->filePath(u"deep/folder"_s)), before);
+        QCOMPARE(keyOf(inspectStore(target, StoreRole::Reference, Depth::Whole)), u"done"_s);
+    }
+
+    void csvCells_data()
+    {
+        columns<QString, QString>({"value", "cell"});
+        QTest::newRow("plain") << u"1.80 V"_s << u"1.80 V"_s;
+        QTest::newRow("formula") << u"=1+cmd|' /C calc'!A0"_s << u"'=1+cmd|' /C calc'!A0"_s;
+        QTest::newRow("minus") << u"-0.2 %"_s << u"'-0.2 %"_s;
+        QTest::newRow("wide equals sign") << u"\uff1dA1"_s << u"'\uff1dA1"_s;
+        QTest::newRow("tab in front") << u"\t=A1"_s << u"\"'\t=A1\""_s;
+        QTest::newRow("line end in front") << u"\r=A1"_s << u"\"'\r=A1\""_s;
+        QTest::newRow("an apostrophe is no guard") << u"'=A1"_s << u"''=A1"_s;
+        QTest::newRow("quotes and commas") << u"a \"b\", c"_s << u"\"a \"\"b\"\", c\""_s;
+        QTest::newRow("lines") << u"a\nb\r\n"_s << u"\"a\nb\r\n\""_s;
+        QTest::newRow("empty") << u""_s << u""_s;
+        QTest::newRow("unseen bytes") << u"a\0\x9b"_s << u"a\0\x9b"_s;
+    }
+
+    void csvCells()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, cell);
+        const QString text = csvText({{u"head"_s, u"x"_s}, {value, value}});
+        QCOMPARE(text, u"head,x\r\n"_s + cell + u',' + cell + u"\r\n"_s);
+        const auto records = csvRecords(text);
+        QVERIFY(records);
+        QCOMPARE(records->size(), 2);
+        QCOMPARE(unguarded(records->at(1).at(0)), value);
+        QCOMPARE(unguarded(records->at(1).at(1)), value);
+    }
+
+    void exportRefusesToOverwrite()
+    {
+        const Store reader = store();
+        const QString folder = m_folder->filePath(u"tables"_s);
+        QVERIFY(exportStore(reader, folder));
+        const auto before = contentsOf(folder);
+        QVERIFY(before.value(u"Ultimo.csv"_s) == "Modelo\r\n");
+        QVERIFY(before.value(u"Tools.csv"_s) == "Idioma,Nome,syncbd\r\n1,,0\r\n");
+        QCOMPARE(csvRecords(QString::fromUtf8(before.value(u"Master.csv"_s)))->size(), 709);
+        QCOMPARE(keyOf(exportStore(reader, folder)), u"STORE_EXISTS"_s);
+        QVERIFY(QFile::remove(folder + u"/Master.csv"_s)); // the first one can be written, the next cannot
+        QCOMPARE(keyOf(exportStore(reader, folder)), u"STORE_EXISTS"_s);
+        QCOMPARE(contentsOf(folder).size(), before.size() - 1);
+        QCOMPARE(keyOf(exportStore(reader, path())), u"STORE_FAILED"_s);
+    }
+
+    void namedSettings_data()
+    {
+        columns<QString, QString, QString>({"name", "value", "key"});
+        QTest::newRow("language") << u"language"_s << u"es"_s << u"done"_s;
+        QTest::newRow("language by number") << u"language"_s << u"2"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("two words of the choice") << u"auto-reconnect"_s << u"on off"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("a name with accents") << u"name"_s << u"Oficina São João"_s << u"done"_s;
+        QTest::newRow("a name of two lines") << u"name"_s << u"a\nb"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("no such model") << u"model"_s << u"IP 9"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("no decimals of volts") << u"pmu-volts"_s << u"0"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("an address") << u"help-video"_s << u"https://example.org/a?b=1"_s << u"done"_s;
+        QTest::newRow("a file is no address") << u"help-video"_s << u"file:///etc/passwd"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("an address without a host") << u"report-host"_s << u"https://"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("not known") << u"nome"_s << u"x"_s << u"SETTING_UNKNOWN"_s;
+    }
+
+    void namedSettings()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QFETCH(QString, key);
+        Store writer = store();
+        const QString before = namedSetting(writer, name) ? *namedSetting(writer, name) : QString();
+        QCOMPARE(keyOf(setNamedSetting(writer, name, value)), key);
+        if (key != u"SETTING_UNKNOWN"_s)
+            QCOMPARE(*namedSetting(writer, name), key == u"done"_s ? value : before);
+    }
 
 private:
     QString path() const { return m_folder->filePath(u"Config.pmx"_s); }
@@ -66,397 +397,6 @@ private:
     QTemporaryDir m_master;
     std::optional<QTemporaryDir> m_folder;
 };
-
-void tst_guard::initTestCase()
-{
-    QVERIFY(createStore(m_master.filePath(u"Config.pmx"_s)));
-}
-
-void tst_guard::init()
-{
-    m_folder.emplace();
-    QVERIFY(QFile::copy(m_master.filePath(u"Config.pmx"_s), path()));
-}
-
-void tst_guard::cleanup()
-{
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
-}
-
-void tst_guard::refused_data()
-{
-    QTest::addColumn<QStringList>("made");
-    QTest::addColumn<QString>("quick");
-    QTest::addColumn<QString>("whole");
-    const auto row = [](const char *name, const QStringList &made, const QString &quick, const QString &whole) {
-        QTest::newRow(name) << made << quick << whole;
-    };
-    const QString fine = u"done"_s;
-    const QString foreign = u"STORE_FOREIGN"_s;
-    row("as it ships", {}, fine, fine);
-    row("a trigger that wipes", {u"create trigger t after insert on Dados begin delete from Master; end"_s}, foreign,
-        foreign);
-    row("Master is a view", {u"alter table Master rename to X"_s, u"create view Master as select rowid, * from X"_s},
-        foreign, foreign);
-    row("a virtual table", {u"create virtual table v using rtree(a, b, c)"_s}, foreign, foreign);
-    row("of another program", {u"PRAGMA application_id = 252006673"_s}, foreign, foreign);
-    row("no mark at all", {u"PRAGMA application_id = 0"_s, u"PRAGMA user_version = 0"_s}, fine, fine);
-    row("of a later version", {u"PRAGMA user_version = 2"_s}, u"STORE_NEWER"_s, u"STORE_NEWER"_s);
-    row("a column is gone", {u"alter table Master drop column G3"_s}, foreign, foreign);
-    row("a table is gone", {u"drop table Comandos"_s}, foreign, foreign);
-    row("texts turned to numbers",
-        {u"alter table Comandos drop column Info2"_s, u"alter table Comandos add column Info2 integer"_s}, foreign,
-        foreign);
-    row("a column that computes",
-        {u"alter table Comandos drop column Info3"_s,
-         u"alter table Comandos add column Info3 text as (hex(zeroblob(900))) virtual"_s},
-        foreign, foreign);
-    row("a huge text", {u"Update Master set G1 = hex(zeroblob(40000)) Where rowid = 3"_s}, fine, foreign);
-    row("bytes for a text", {u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'x', x'00ff')"_s}, fine,
-        foreign);
-    row("a text for a number", {u"Update Master set TIPO = 'two' Where rowid = 3"_s}, fine, foreign);
-    row("rows without end",
-        {u"Insert into Comandos (Comando) with recursive n(i) as (select 1 union all select i + 1 from n where i < "
-         "20001) select i from n"_s},
-        fine, foreign);
-    row("write-ahead log", {u"PRAGMA journal_mode = WAL"_s}, fine, fine);
-    row("two rows of settings are only untidy", {u"Insert into Tools default values"_s}, fine, fine);
-}
-
-void tst_guard::refused()
-{
-    QFETCH(QStringList, made);
-    QFETCH(QString, whole);
-    OtherProgram(path()).runAll(made);
-    const auto before = contentsOf(m_folder->path());
-    QTEST(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Quick)), "quick");
-    const Result<Done> outcome = inspectStore(path(), StoreRole::Reference, Depth::Whole);
-    QCOMPARE(keyOf(outcome), whole);
-    QCOMPARE(contentsOf(m_folder->path()), before);
-    if (outcome)
-        return;
-    QCOMPARE(outcome.trouble().what.arguments.value(0), QDir::toNativeSeparators(path()));
-    QVERIFY(!outcome.trouble().what.arguments.value(1).isEmpty());
-}
-
-void tst_guard::brokenFiles_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("size");
-    QTest::addColumn<QString>("key");
-    QTest::newRow("another kind of file")
-        << 0 << QByteArray("\x00\x01\x00\x00Standard Jet DB", 19) << -1 << u"STORE_FOREIGN"_s;
-    QTest::newRow("nothing in it") << 0 << QByteArray() << 0 << u"STORE_DAMAGED"_s;
-    QTest::newRow("cut in the head") << 0 << QByteArray() << 50 << u"STORE_DAMAGED"_s;
-    QTest::newRow("cut in the middle") << 0 << QByteArray() << 20480 << u"STORE_DAMAGED"_s;
-    QTest::newRow("the schema overwritten") << 100 << QByteArray(3000, '\xa5') << -1 << u"STORE_DAMAGED"_s;
-    QTest::newRow("a page overwritten") << 16384 << QByteArray(4096, '\x5a') << -1 << u"STORE_DAMAGED"_s;
-}
-
-void tst_guard::brokenFiles()
-{
-    QFETCH(int, from);
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, size);
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.seek(from) && file.write(bytes) == bytes.size());
-    QVERIFY(size < 0 || file.resize(size));
-    file.close();
-    const auto before = contentsOf(m_folder->path());
-    QTEST(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Whole)), "key");
-    QCOMPARE(contentsOf(m_folder->path()), before);
-}
-
-void tst_guard::unfinishedWriteIsLeftAlone()
-{
-    OtherProgram other(path());
-    other.runAll({u"PRAGMA cache_size = 2"_s, u"BEGIN"_s, u"Update Master set G1 = hex(zeroblob(300))"_s});
-    QTemporaryDir killed;
-    for (const QString &end : {u""_s, u"-journal"_s})
-        QVERIFY(QFile::copy(path() + end, killed.filePath(u"Config.pmx"_s + end)));
-    other.run(u"ROLLBACK"_s);
-    const auto before = contentsOf(killed.path());
-    QCOMPARE(before.size(), 2);
-    QCOMPARE(keyOf(inspectStore(killed.filePath(u"Config.pmx"_s), StoreRole::Reference, Depth::Whole)), u"done"_s);
-    QCOMPARE(contentsOf(killed.path()), before);
-
-    other.run(u"BEGIN EXCLUSIVE"_s);
-    QCOMPARE(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Quick)), u"STORE_LOCKED"_s);
-}
-
-void tst_guard::findingsAreFitToBeShown()
-{
-    OtherProgram(path()).runAll({u"Insert into Tools default values"_s, u"Delete from Combos"_s,
-                                 u"Insert into Dados (Aparelho, Comando) values ('IP 7', char(27) || '[2J'), "
-                                 "('ip 7', char(27) || '[2j')"_s});
-    const auto findings = storeFindings(path(), StoreRole::Reference, Depth::Whole);
-    QVERIFY(findings);
-    QStringList lines;
-    for (const StoreFinding &finding : *findings)
-        lines += finding.where + u": "_s + finding.what;
-    QCOMPARE(lines, (QStringList{u"Tools: 2 rows instead of one"_s, u"Combos: 0 rows instead of one"_s,
-                                 u"Dados: 2 recordings of IP 7: ␛[2J"_s}));
-}
-
-void tst_guard::olderStoreGetsItsTables()
-{
-    OtherProgram other(path());
-    other.runAll({u"drop table RecordingHash"_s, u"drop table Settings"_s,
-                  u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'old', 'reply')"_s});
-    {
-        const Store reader = std::move(*Store::open(path(), Store::Access::Read, 0ms));
-        QCOMPARE((*recordingFor(reader, u"IP 7"_s, u"old"_s))->integrity, Integrity::Unverified);
-    }
-    Store writer = store();
-    QVERIFY(setSetting(writer, u"a"_s, u"b"_s));
-    QVERIFY(saveRecording(writer, {u"IP 7"_s, u"old"_s, u"again"_s}));
-    QVERIFY((*recordingFor(writer, u"IP 7"_s, u"OLD"_s))->intact());
-}
-
-void tst_guard::recordingComesBack_data()
-{
-    QTest::addColumn<QString>("reply");
-    QTest::newRow("line ends of every kind") << u"a\r\nb\nc\r"_s;
-    QTest::newRow("a NUL in the middle") << u"a\0b"_s;
-    QTest::newRow("every byte") << [] {
-        QString all;
-        for (char16_t byte = 0; byte < 256; ++byte)
-            all += QChar(byte);
-        return all;
-    }();
-    QTest::newRow("looks like a number") << u"007.10"_s;
-    QTest::newRow("long") << QString(300000, u'ÿ');
-    QTest::newRow("notes alone") << u""_s;
-}
-
-void tst_guard::recordingComesBack()
-{
-    QFETCH(QString, reply);
-    const Recording recording{u"IP 7"_s, u"pmuadc --read all"_s, reply, u"nota"_s, u"note"_s, u"ño"_s};
-    Store writer = store();
-    QVERIFY(saveRecording(writer, recording));
-    const auto kept = recordingFor(writer, recording.aparelho, recording.comando);
-    QVERIFY(kept && *kept);
-    QCOMPARE((*kept)->recording, recording);
-    QVERIFY((*kept)->intact());
-}
-
-void tst_guard::noPairTwice()
-{
-    OtherProgram other(path());
-    other.run(u"Insert into Dados (Aparelho, Comando, Dados, Info) values ('IP 7', 'a', '', 'kept')"_s);
-    Store writer = store();
-    QVERIFY(saveRecording(writer, {u"IP 7"_s, u"a"_s, u"filled"_s}));
-    QVERIFY(saveRecording(writer, {u"ip 7"_s, u"A"_s, u"other letters"_s}));
-    QVERIFY(saveRecording(writer, {u"IP 7 "_s, u"a"_s, u"another model"_s}));
-    QCOMPARE(other.text(u"Select Comando || Dados from Dados order by rowid"_s), u"aother letters|aanother model"_s);
-    QCOMPARE(other.text(u"Select count(*) from RecordingHash"_s), u"2"_s);
-    QVERIFY(deleteRecording(writer, {u"IP 7"_s, u"a"_s}));
-    QVERIFY(!*recordingFor(writer, u"IP 7"_s, u"a"_s));
-    QCOMPARE(other.text(u"Select Aparelho from Dados"_s), u"IP 7 "_s);
-    QCOMPARE(other.text(u"Select Aparelho from RecordingHash"_s), u"IP 7 "_s);
-}
-
-void tst_guard::whoWroteTheRecording()
-{
-    {
-        Store writer = store();
-        QVERIFY(saveRecording(writer, {u"IP 7"_s, u"ours"_s, u"reply"_s}));
-        QVERIFY(saveRecording(writer, {u"IP 7"_s, u"changed"_s, u"reply"_s}));
-    }
-    OtherProgram(path()).runAll({u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'theirs', 'reply')"_s,
-                                 u"Update Dados set Dados = 'Reply' Where Comando = 'changed'"_s});
-    QCOMPARE(integrity(u"ours"_s), Integrity::Intact);
-    QCOMPARE(integrity(u"theirs"_s), Integrity::Unverified);
-    QCOMPARE(integrity(u"changed"_s), Integrity::Changed);
-    const auto findings = storeFindings(path(), StoreRole::Reference, Depth::Whole);
-    QCOMPARE(findings->size(), 1);
-    QCOMPARE(findings->first().what, u"the recording IP 7: changed changed since it was saved"_s);
-}
-
-// The engine's own check knows pages and trees; a flipped bit inside a text is as good to it as any other text.
-void tst_guard::everyFlippedBitShows()
-{
-    const QString reply = u"BIST buck3: 1200.0000 mV é "_s.repeated(20);
-    {
-        Store writer = store();
-        QVERIFY(saveRecording(writer, {u"IP 7"_s, u"flip"_s, reply}));
-    }
-    const QByteArray whole = contentsOf(m_folder->path()).value(u"Config.pmx"_s);
-    const QByteArray stored = reply.toUtf8();
-    const qsizetype begin = whole.indexOf(stored);
-    QVERIFY(begin > 0);
-    for (qsizetype place = 0; place < stored.size(); place += 3) {
-        QByteArray flipped = whole;
-        flipped[begin + place] = static_cast<char>(flipped[begin + place] ^ (1 << (place % 8)));
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(flipped) == flipped.size());
-        file.close();
-        QVERIFY2(integrity(u"flip"_s) == Integrity::Changed, qPrintable(QString::number(place)));
-    }
-}
-
-void tst_guard::fullDiskKeepsTheRecording()
-{
-    Store writer = store();
-    const Recording good{u"IP 7"_s, u"a"_s, u"good"_s};
-    QVERIFY(saveRecording(writer, good));
-    QVERIFY(writer.run({"Limit", "PRAGMA max_page_count = 1"})); // the engine lowers it to what there is
-    QCOMPARE(keyOf(saveRecording(writer, {u"IP 7"_s, u"a"_s, QString(200000, u'x')})), u"STORE_FULL"_s);
-    QCOMPARE(keyOf(saveRecording(writer, {u"IP 7"_s, u"b"_s, QString(200000, u'x')})), u"STORE_FULL"_s);
-    QCOMPARE((*recordingFor(writer, u"IP 7"_s, u"a"_s))->recording, good);
-    QVERIFY((*recordingFor(writer, u"IP 7"_s, u"a"_s))->intact());
-    QVERIFY(!*recordingFor(writer, u"IP 7"_s, u"b"_s));
-}
-
-void tst_guard::backupsRoll()
-{
-    const auto models = [this](int number) {
-        const QString backup = m_folder->filePath(u"backups/Config.pmx.bak%1"_s.arg(number));
-        const Result<Store> kept = Store::open(backup, Store::Access::Read, 0ms);
-        return kept ? *lastModel(*kept) : u"(none)"_s;
-    };
-    const auto choose = [this](const QString &model) {
-        Store writer = store();
-        return bool(rememberModel(writer, model));
-    };
-    QCOMPARE(*rollBackups(path(), 2), true);
-    QCOMPARE(*rollBackups(path(), 2), false);
-    QVERIFY(choose(u"IP 6"_s));
-    QCOMPARE(*rollBackups(path(), 2), true);
-    QVERIFY(choose(u"IP 6"_s)); // written again, the same
-    QCOMPARE(*rollBackups(path(), 2), false);
-    QVERIFY(choose(u"IP 7"_s));
-    QCOMPARE(*rollBackups(path(), 2), true);
-    QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
-    QCOMPARE(contentsOf(backupFolder(path())).keys(), (QStringList{u"Config.pmx.bak1"_s, u"Config.pmx.bak2"_s}));
-
-    QVERIFY(QFile::remove(m_folder->filePath(u"backups/Config.pmx.bak1"_s))); // a gap is no hindrance
-    QCOMPARE(*rollBackups(path(), 2), true);
-    QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
-    OtherProgram(path()).run(u"PRAGMA application_id = 252006673"_s);
-    QCOMPARE(keyOf(rollBackups(path(), 2)), u"BACKUP_FAILED"_s);
-    QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
-}
-
-void tst_guard::failingBackupLeavesNothing()
-{
-    QFile blocking(m_folder->filePath(u"backups"_s));
-    QVERIFY(blocking.open(QIODevice::WriteOnly));
-    QCOMPARE(keyOf(rollBackups(path())), u"BACKUP_FAILED"_s);
-    QVERIFY(blocking.remove());
-#ifdef Q_OS_UNIX
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit tight{60000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tight);
-    const QString rolled = keyOf(rollBackups(path()));
-    const QString written = keyOf(backupStore(path(), m_folder->filePath(u"copy.pmx"_s)));
-    setrlimit(RLIMIT_FSIZE, &before);
-    QCOMPARE(rolled, u"BACKUP_FAILED"_s);
-    QVERIFY2(written.startsWith(u"STORE_F"_s), qPrintable(written));
-#endif
-    QCOMPARE(contentsOf(m_folder->path()).keys(), QStringList(u"Config.pmx"_s));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList(u"backups"_s));
-    QCOMPARE(QDir(backupFolder(path())).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-             QStringList());
-}
-
-void tst_guard::backupNeverOverwrites()
-{
-    const QString target = m_folder->filePath(u"deep/folder/copy.pmx"_s);
-    QCOMPARE(keyOf(backupStore(path(), target)), u"done"_s);
-    const auto before = contentsOf(m_folder->filePath(u"deep/folder"_s));
-    QCOMPARE(before.keys(), QStringList(u"copy.pmx"_s));
-    QCOMPARE(keyOf(backupStore(path(), target)), u"STORE_EXISTS"_s);
-    QCOMPARE(keyOf(backupStore(m_folder->filePath(u"none"_s), m_folder->filePath(u"b"_s))), u"STORE_MISSING"_s);
-    QCOMPARE(contentsOf(m_folder->filePath(u"deep/folder"_s)), before);
-    QCOMPARE(keyOf(inspectStore(target, StoreRole::Reference, Depth::Whole)), u"done"_s);
-}
-
-void tst_guard::csvCells_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("cell");
-    QTest::newRow("plain") << u"1.80 V"_s << u"1.80 V"_s;
-    QTest::newRow("formula") << u"=1+cmd|' /C calc'!A0"_s << u"'=1+cmd|' /C calc'!A0"_s;
-    QTest::newRow("minus") << u"-0.2 %"_s << u"'-0.2 %"_s;
-    QTest::newRow("wide equals sign") << u"\uff1dA1"_s << u"'\uff1dA1"_s;
-    QTest::newRow("tab in front") << u"\t=A1"_s << u"\"'\t=A1\""_s;
-    QTest::newRow("line end in front") << u"\r=A1"_s << u"\"'\r=A1\""_s;
-    QTest::newRow("an apostrophe is no guard") << u"'=A1"_s << u"''=A1"_s;
-    QTest::newRow("quotes and commas") << u"a \"b\", c"_s << u"\"a \"\"b\"\", c\""_s;
-    QTest::newRow("lines") << u"a\nb\r\n"_s << u"\"a\nb\r\n\""_s;
-    QTest::newRow("empty") << u""_s << u""_s;
-    QTest::newRow("unseen bytes") << u"a\0\x9b"_s << u"a\0\x9b"_s;
-}
-
-void tst_guard::csvCells()
-{
-    QFETCH(QString, value);
-    QFETCH(QString, cell);
-    const QString text = csvText({{u"head"_s, u"x"_s}, {value, value}});
-    QCOMPARE(text, u"head,x\r\n"_s + cell + u',' + cell + u"\r\n"_s);
-    const auto records = csvRecords(text);
-    QVERIFY(records);
-    QCOMPARE(records->size(), 2);
-    QCOMPARE(unguarded(records->at(1).at(0)), value);
-    QCOMPARE(unguarded(records->at(1).at(1)), value);
-}
-
-void tst_guard::exportRefusesToOverwrite()
-{
-    const Store reader = store();
-    const QString folder = m_folder->filePath(u"tables"_s);
-    QVERIFY(exportStore(reader, folder));
-    const auto before = contentsOf(folder);
-    QVERIFY(before.value(u"Ultimo.csv"_s) == "Modelo\r\n");
-    QVERIFY(before.value(u"Tools.csv"_s) == "Idioma,Nome,syncbd\r\n1,,0\r\n");
-    QCOMPARE(csvRecords(QString::fromUtf8(before.value(u"Master.csv"_s)))->size(), 709);
-    QCOMPARE(keyOf(exportStore(reader, folder)), u"STORE_EXISTS"_s);
-    QVERIFY(QFile::remove(folder + u"/Master.csv"_s)); // the first one can be written, the next cannot
-    QCOMPARE(keyOf(exportStore(reader, folder)), u"STORE_EXISTS"_s);
-    QCOMPARE(contentsOf(folder).size(), before.size() - 1);
-    QCOMPARE(keyOf(exportStore(reader, path())), u"STORE_FAILED"_s);
-}
-
-void tst_guard::namedSettings_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("key");
-    QTest::newRow("language") << u"language"_s << u"es"_s << u"done"_s;
-    QTest::newRow("language by number") << u"language"_s << u"2"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("no language") << u"language"_s << u""_s << u"SETTING_INVALID"_s;
-    QTest::newRow("two words of the choice") << u"auto-reconnect"_s << u"on off"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("the name may be emptied") << u"name"_s << u""_s << u"done"_s;
-    QTest::newRow("a name with accents") << u"name"_s << u"Oficina São João"_s << u"done"_s;
-    QTest::newRow("a name of two lines") << u"name"_s << u"a\nb"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("a model") << u"model"_s << u"IP X"_s << u"done"_s;
-    QTest::newRow("no such model") << u"model"_s << u"IP 9"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("speed") << u"speed"_s << u"G2"_s << u"done"_s;
-    QTest::newRow("no decimals of volts") << u"pmu-volts"_s << u"0"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("no decimals of milliamperes") << u"pmu-amps"_s << u"0"_s << u"done"_s;
-    QTest::newRow("an address") << u"help-video"_s << u"https://example.org/a?b=1"_s << u"done"_s;
-    QTest::newRow("a file is no address") << u"help-video"_s << u"file:///etc/passwd"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("an address without a host") << u"report-host"_s << u"https://"_s << u"SETTING_INVALID"_s;
-    QTest::newRow("not known") << u"nome"_s << u"x"_s << u"SETTING_UNKNOWN"_s;
-}
-
-void tst_guard::namedSettings()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, value);
-    QFETCH(QString, key);
-    Store writer = store();
-    const QString before = namedSetting(writer, name) ? *namedSetting(writer, name) : QString();
-    QCOMPARE(keyOf(setNamedSetting(writer, name, value)), key);
-    if (key != u"SETTING_UNKNOWN"_s)
-        QCOMPARE(*namedSetting(writer, name), key == u"done"_s ? value : before);
-}
 
 QTEST_GUILESS_MAIN(tst_guard)
 #include "tst_guard.moc"
