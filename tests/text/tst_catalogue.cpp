@@ -1,5 +1,6 @@
 #include "captiontable.h"
 #include "catalogue.h"
+#include "columns.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>
@@ -8,81 +9,6 @@
 using namespace Qt::StringLiterals;
 
 static constexpr Language kLanguages[] = {Language::Portuguese, Language::English, Language::Spanish};
-
-class TestCatalogue : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void captions_data();
-    void captions();
-    void unknownKeyOrLanguageIsEmpty();
-    void everyCaptionHasThreeTexts();
-    void noKeyTwice();
-    void everyKeyInTheSourcesIsKnown();
-    void everyMessageHasThreeTexts();
-    void gapsAreTheSameInEveryLanguage();
-    void firstLines_data();
-    void firstLines();
-    void icons();
-    void unknownMessageShowsNothing();
-    void gapsAreFilled();
-    void emptyGapLinesAreDropped();
-    void argumentIsNoPattern();
-    void questions();
-};
-
-void TestCatalogue::captions_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("Spanish keeps the English")
-        << u"TensoesRF"_s << QStringList{u"Tensões RF"_s, u"RF Voltage"_s, u"RF Voltage"_s};
-    QTest::newRow("Spanish keeps the Portuguese")
-        << u"CICLOS DE CARGA"_s << QStringList{u"CICLOS DE CARGA"_s, u"LOAD CYCLES"_s, u"CICLOS DE CARGA"_s};
-    QTest::newRow("accent unlike the key")
-        << u"SAUDE DA BATERIA"_s << QStringList{u"SAÚDE DA BATERIA"_s, u"BATTERY HEALTH"_s, u"SALUD DE LA BATERIA"_s};
-    QTest::newRow("key in capitals") << u"COMUNICAÇÃO OFF"_s
-                                     << QStringList{u"Sem Comunicação"_s, u"No communication"_s, u"Sin comunicacion"_s};
-    QTest::newRow("what a missing reading shows")
-        << u"Sem Medição"_s << QStringList{u"Sem Medição"_s, u"No Reading"_s, u"Sin lectura"_s};
-    QTest::newRow("not a literal translation")
-        << u"Manutenção"_s << QStringList{u"Manutenção"_s, u"Maintenance"_s, u"Refacción"_s};
-}
-
-void TestCatalogue::captions()
-{
-    QFETCH(QString, key);
-    QStringList found;
-    for (const Language language : kLanguages)
-        found += caption(key, language);
-    QTEST(found, "texts");
-}
-
-void TestCatalogue::unknownKeyOrLanguageIsEmpty()
-{
-    QCOMPARE(caption(u"Nunca visto", Language::English), QString());
-    QCOMPARE(caption(u"tensões", Language::English), QString());
-    QCOMPARE(caption(u"Tensões", static_cast<Language>(0)), QString());
-    QCOMPARE(caption(u"Tensões", static_cast<Language>(4)), QString());
-}
-
-void TestCatalogue::everyCaptionHasThreeTexts()
-{
-    for (const QString &key : captionKeys()) {
-        for (const Language language : kLanguages)
-            QVERIFY2(!caption(key, language).trimmed().isEmpty(), qPrintable(key));
-    }
-}
-
-void TestCatalogue::noKeyTwice()
-{
-    // A second row of a key could never be seen: the first decides, across the tables too.
-    QStringList keys = captionKeys();
-    QCOMPARE(keys.removeDuplicates(), 0);
-    keys = messageKeys();
-    QCOMPARE(keys.removeDuplicates(), 0);
-}
 
 static QStringList keysIn(const QString &source)
 {
@@ -97,34 +23,6 @@ static QStringList keysIn(const QString &source)
     return keys;
 }
 
-void TestCatalogue::everyKeyInTheSourcesIsKnown()
-{
-    const QStringList known = captionKeys() + messageKeys();
-    QStringList missing;
-    QDirIterator files(QStringLiteral(PRELT_SOURCE_DIR "/src"), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        QFile file(files.next());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        for (const QString &key : keysIn(QString::fromUtf8(file.readAll()))) {
-            if (!known.contains(key))
-                missing += files.fileName() + u": "_s + key;
-        }
-    }
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(u'\n')));
-}
-
-void TestCatalogue::everyMessageHasThreeTexts()
-{
-    for (const QString &key : messageKeys()) {
-        for (const Language language : kLanguages) {
-            const auto shown = message({key, {u"x"_s, u"y"_s}}, language);
-            QVERIFY2(shown && !shown->title.trimmed().isEmpty() && !shown->lines.isEmpty(), qPrintable(key));
-            QVERIFY2(!shown->lines.first().trimmed().isEmpty(), qPrintable(key));
-        }
-    }
-}
-
 static QStringList gapsIn(const QString &text)
 {
     static const QRegularExpression kGap(u"%[1-9]"_s);
@@ -135,93 +33,135 @@ static QStringList gapsIn(const QString &text)
     return gaps;
 }
 
-void TestCatalogue::gapsAreTheSameInEveryLanguage()
+class TestCatalogue : public QObject
 {
-    const QStringList gaps{u"%1"_s, u"%2"_s};
-    for (const QString &key : messageKeys()) {
-        const auto inLanguage = [&](Language language) {
-            return gapsIn(message({key, gaps}, language)->lines.join(u'\n'));
-        };
-        QVERIFY2(inLanguage(Language::English) == inLanguage(Language::Portuguese), qPrintable(key));
-        QVERIFY2(inLanguage(Language::Spanish) == inLanguage(Language::Portuguese), qPrintable(key));
+    Q_OBJECT
+
+private slots:
+    void captions_data()
+    {
+        columns<QString, QStringList>({"key", "texts"});
+        QTest::newRow("Spanish keeps the English")
+            << u"TensoesRF"_s << QStringList{u"Tensões RF"_s, u"RF Voltage"_s, u"RF Voltage"_s};
+        QTest::newRow("Spanish keeps the Portuguese")
+            << u"CICLOS DE CARGA"_s << QStringList{u"CICLOS DE CARGA"_s, u"LOAD CYCLES"_s, u"CICLOS DE CARGA"_s};
+        QTest::newRow("accent unlike the key")
+            << u"SAUDE DA BATERIA"_s
+            << QStringList{u"SAÚDE DA BATERIA"_s, u"BATTERY HEALTH"_s, u"SALUD DE LA BATERIA"_s};
     }
-}
 
-void TestCatalogue::firstLines_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<Language>("language");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<int>("lines");
-    QTest::newRow("title keeps its blanks")
-        << u"MSG_PORTA_NAO_RESPONDE"_s << Language::Portuguese << u"  Erro ao conectar"_s << 2;
-    QTest::newRow("Spanish title") << u"MSG_PORTA_NAO_RESPONDE"_s << Language::Spanish << u"Error al conectar"_s << 2;
-    QTest::newRow("six steps") << u"MSG_PORTA"_s << Language::English << u"Tavimo Prelt"_s << 6;
-    QTest::newRow("causes") << u"MSG_INTERNET"_s << Language::English << u"  Connection error"_s << 7;
-    QTest::newRow("three languages at once")
-        << u"ARQUIVO_AUSENTE"_s << Language::English << u"Arquivo ausente - File not found"_s << 5;
-    QTest::newRow("product name by default") << u"REFUSED_BUSY"_s << Language::Spanish << u"Tavimo Prelt"_s << 1;
-}
+    void captions()
+    {
+        QFETCH(QString, key);
+        QStringList found;
+        for (const Language language : kLanguages)
+            found += caption(key, language);
+        QTEST(found, "texts");
+    }
 
-void TestCatalogue::firstLines()
-{
-    QFETCH(QString, key);
-    QFETCH(Language, language);
-    const auto shown = message({key}, language);
-    QVERIFY(shown);
-    QTEST(shown->title, "title");
-    QTEST(int(shown->lines.size()), "lines");
-}
+    void unknownKeyOrLanguageIsEmpty()
+    {
+        QCOMPARE(caption(u"Nunca visto", Language::English), QString());
+        QCOMPARE(caption(u"tensões", Language::English), QString());
+        QCOMPARE(caption(u"Tensões", static_cast<Language>(0)), QString());
+        QCOMPARE(caption(u"Tensões", static_cast<Language>(4)), QString());
+    }
 
-void TestCatalogue::icons()
-{
-    QVERIFY(message({u"MSG_ERRO_NAND"_s}, Language::Portuguese)->icon == MessageIcon::None);
-    QVERIFY(message({u"MSG_ERRO_NAND"_s}, Language::English)->icon == MessageIcon::Information);
-    QVERIFY(message({u"MSG_INTERNET_GERAL"_s}, Language::Spanish)->icon == MessageIcon::Critical);
-}
+    void everyCaptionHasThreeTexts()
+    {
+        for (const QString &key : captionKeys()) {
+            for (const Language language : kLanguages)
+                QVERIFY2(!caption(key, language).trimmed().isEmpty(), qPrintable(key));
+        }
+    }
 
-void TestCatalogue::unknownMessageShowsNothing()
-{
-    QVERIFY(!message({u"MSG_NUNCA_VISTA"_s}, Language::English));
-    QVERIFY(!message({u"MSG_PORTA"_s}, static_cast<Language>(0)));
-    QVERIFY(!message({u"MSG_PORTA"_s}, static_cast<Language>(4)));
-}
+    void noKeyTwice()
+    {
+        // A second row of a key could never be seen: the first decides, across the tables too.
+        QStringList keys = captionKeys();
+        QCOMPARE(keys.removeDuplicates(), 0);
+        keys = messageKeys();
+        QCOMPARE(keys.removeDuplicates(), 0);
+    }
 
-void TestCatalogue::gapsAreFilled()
-{
-    QCOMPARE(message({u"MSG_PORTA_INVALIDA"_s, {u"7"_s}}, Language::English)->lines,
-             (QStringList{u"Port communication COM 7 invalid"_s, u"Change the Box's USB port and try again."_s}));
-    QCOMPARE(message({u"UNKNOWN_INDEX"_s, {u"17"_s}}, Language::Portuguese)->lines, QStringList{u"17NOT "_s});
-    const QString twice = message({u"REMEDY_GROUP"_s, {u"dialout"_s}}, Language::English)->lines.first();
-    QCOMPARE(twice.count(u"dialout"_s), 2);
-}
+    void everyKeyInTheSourcesIsKnown()
+    {
+        const QStringList known = captionKeys() + messageKeys();
+        QStringList missing;
+        QDirIterator files(QStringLiteral(PRELT_SOURCE_DIR "/src"), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            for (const QString &key : keysIn(QString::fromUtf8(file.readAll()))) {
+                if (!known.contains(key))
+                    missing += files.fileName() + u": "_s + key;
+            }
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(u'\n')));
+    }
 
-void TestCatalogue::emptyGapLinesAreDropped()
-{
-    const QStringList told{u"Store error: /a/b"_s, u"disk gone"_s};
-    QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s, u"disk gone"_s}}, Language::English)->lines, told);
-    QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s, u""_s}}, Language::English)->lines, told.first(1));
-    QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s}}, Language::English)->lines, told.first(1));
-}
+    void everyMessageHasThreeTexts()
+    {
+        for (const QString &key : messageKeys()) {
+            for (const Language language : kLanguages) {
+                const auto shown = message({key, {u"x"_s, u"y"_s}}, language);
+                QVERIFY2(shown && !shown->title.trimmed().isEmpty() && !shown->lines.isEmpty(), qPrintable(key));
+                QVERIFY2(!shown->lines.first().trimmed().isEmpty(), qPrintable(key));
+            }
+        }
+    }
 
-void TestCatalogue::argumentIsNoPattern()
-{
-    const auto shown = message({u"STORE_FAILED"_s, {u"/100%2/%1"_s, u"why"_s}}, Language::English);
-    QCOMPARE(shown->lines, (QStringList{u"Store error: /100%2/%1"_s, u"why"_s}));
-}
+    void gapsAreTheSameInEveryLanguage()
+    {
+        const QStringList gaps{u"%1"_s, u"%2"_s};
+        for (const QString &key : messageKeys()) {
+            const auto inLanguage = [&](Language language) {
+                return gapsIn(message({key, gaps}, language)->lines.join(u'\n'));
+            };
+            QVERIFY2(inLanguage(Language::English) == inLanguage(Language::Portuguese), qPrintable(key));
+            QVERIFY2(inLanguage(Language::Spanish) == inLanguage(Language::Portuguese), qPrintable(key));
+        }
+    }
 
-void TestCatalogue::questions()
-{
-    const auto limit = message({u"Porta 16"_s}, Language::English);
-    QCOMPARE(limit->title, u"Serial COM port"_s);
-    QCOMPARE(limit->lines.size(), 3);
-    QVERIFY(limit->icon == MessageIcon::Question);
-    const auto import = message({u"Dados UPDATE1"_s}, Language::English);
-    QCOMPARE(import->lines, (QStringList{u"Data saved or changed by you in the previous version was found."_s,
-                                         u"Do you want to import this data into this new version?"_s}));
-    QCOMPARE(message({u"Deseja excluir o comando "_s, {u"i2c -s 0"_s}}, Language::Portuguese)->lines,
-             QStringList{u"Deseja excluir o comando i2c -s 0  ?"_s});
-}
+    void unknownMessageShowsNothing()
+    {
+        QVERIFY(!message({u"MSG_NUNCA_VISTA"_s}, Language::English));
+        QVERIFY(!message({u"MSG_PORTA"_s}, static_cast<Language>(0)));
+        QVERIFY(!message({u"MSG_PORTA"_s}, static_cast<Language>(4)));
+    }
+
+    void gapsAreFilled()
+    {
+        QCOMPARE(message({u"MSG_PORTA_INVALIDA"_s, {u"7"_s}}, Language::English)->lines,
+                 (QStringList{u"Port communication COM 7 invalid"_s, u"Change the Box's USB port and try again."_s}));
+        QCOMPARE(message({u"UNKNOWN_INDEX"_s, {u"17"_s}}, Language::Portuguese)->lines, QStringList{u"17NOT "_s});
+        const QString twice = message({u"REMEDY_GROUP"_s, {u"dialout"_s}}, Language::English)->lines.first();
+        QCOMPARE(twice.count(u"dialout"_s), 2);
+    }
+
+    void emptyGapLinesAreDropped()
+    {
+        const QStringList told{u"Store error: /a/b"_s, u"disk gone"_s};
+        QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s, u"disk gone"_s}}, Language::English)->lines, told);
+        QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s, u""_s}}, Language::English)->lines, told.first(1));
+        QCOMPARE(message({u"STORE_FAILED"_s, {u"/a/b"_s}}, Language::English)->lines, told.first(1));
+    }
+
+    void argumentIsNoPattern()
+    {
+        const auto shown = message({u"STORE_FAILED"_s, {u"/100%2/%1"_s, u"why"_s}}, Language::English);
+        QCOMPARE(shown->lines, (QStringList{u"Store error: /100%2/%1"_s, u"why"_s}));
+    }
+
+    void questions()
+    {
+        QVERIFY(message({u"Porta 16"_s}, Language::English)->icon == MessageIcon::Question);
+        QVERIFY(message({u"MSG_INTERNET_GERAL"_s}, Language::Spanish)->icon == MessageIcon::Critical);
+        QCOMPARE(message({u"Deseja excluir o comando "_s, {u"i2c -s 0"_s}}, Language::Portuguese)->lines,
+                 QStringList{u"Deseja excluir o comando i2c -s 0  ?"_s});
+    }
+};
 
 QTEST_GUILESS_MAIN(TestCatalogue)
 #include "tst_catalogue.moc"
