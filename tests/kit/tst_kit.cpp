@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "labelledvalue.h"
 #include "railevaluation.h"
 
@@ -50,174 +51,163 @@ class TestKit : public QObject
     Q_OBJECT
 
 private slots:
-    void judgesAtTheLimit();
-    void labelsOfIndices();
-    void valuesBehindLabels_data();
-    void valuesBehindLabels();
-    void cutAnywhereGivesTheValueOrNothing();
-    void lostBytesNeverMakeAnotherNumber();
-    void labelsTooFarBackAreNotFound();
-    void evaluatesRows_data();
-    void evaluatesRows();
+    void judgesAtTheLimit()
+    {
+        const Rule rule = Rule::tenPercent();
+        QCOMPARE(judged(10.0, rule), Verdict::Fail);
+        QCOMPARE(judged(-10.0, rule), Verdict::Fail);
+        QCOMPARE(judged(9.9, rule), Verdict::Pass);
+        QCOMPARE(judged(-9.9, rule), Verdict::Pass);
+        QCOMPARE(judged({}, rule), Verdict::Incomplete);
+        QCOMPARE(worst(Verdict::Incomplete, Verdict::Fail), Verdict::Fail);
+        QCOMPARE(worst(Verdict::Incomplete, Verdict::Pass), Verdict::Incomplete);
+    }
+
+    void labelsOfIndices()
+    {
+        QCOMPARE(BistLabel(u"11"_s), u"BIST buck11:"_s);
+        QCOMPARE(BistLabel(u"12"_s), u"BIST buck3_sw1:"_s);
+        QCOMPARE(BistLabel(u"16"_s), u"BIST buck4_sw2:"_s);
+        QCOMPARE(BistLabel(u"31"_s), u"ibuck11:"_s);
+        QCOMPARE(BistLabel(u"59"_s), u"BIST ldo19:"_s);
+        QCOMPARE(BistLabel(u"60"_s), u"BIST ildo0:"_s);
+        QCOMPARE(BistLabel(u"80"_s), u"BIST ibuf_1v2:"_s);
+        QCOMPARE(BistLabel(u"82"_s), u"BIST vrtc:"_s);
+        for (const auto &hole :
+             {u"17"_s, u"19"_s, u"32"_s, u"39"_s, u"83"_s, u"-1"_s, u"05"_s, u" 5"_s, u"+5"_s, u"x"_s})
+            QCOMPARE(BistLabel(hole), QString());
+    }
+
+    void valuesBehindLabels_data()
+    {
+        columns<QString, Kind, QString>({"reply", "kind", "value"});
+
+        const auto add = [](const char *fault, const QString &reply, Kind kind, const QString &value = {}) {
+            QTest::newRow(fault) << reply << kind << value;
+        };
+        add("a whole line", u"x\r\nBIST ldo3: 1800.0000 mV\r\ny"_s, Kind::Volt, u"1.800"_s);
+        add("a current loses its last digit", u"BIST ldo3: 36.5238 mA\n"_s, Kind::Milliampere, u"36,523"_s);
+        add("the first of two answers counts", u"BIST ldo3: 1.0000 mV\nBIST ldo3: 9.0000 mV\n"_s, Kind::Volt,
+            u"0.001"_s);
+        add("another output that begins alike", u"BIST ldo13: 1.0000 mV\nBIST ildo3: 9.0000 mA\n"_s, Kind::Missing);
+        add("a label in other letter case", u"bist LDO3: 1800.0000 mV\n"_s, Kind::Missing);
+        add("time-out", u"BIST ldo3: timeout mV\n"_s, Kind::TimedOut, u"timeout"_s);
+        add("whole millivolts without a point", u"BIST ldo3: -800 mV\n"_s, Kind::Volt, u"-0.800"_s);
+        add("noise in the number", u"BIST ldo3: 18q0.0000 mV\n"_s, Kind::Missing);
+        add("two blanks", u"BIST ldo3:  1800.0000 mV\n"_s, Kind::Missing);
+        add("number cut by a line end that a blank follows", u"BIST ldo3: 18\n mV"_s, Kind::Missing);
+        add("half of the unit", u"BIST ldo3: 1800.0000 m\r\nBIST ldo4: 1.0000 mV\n"_s, Kind::Missing);
+        add("number cut, then the prompt", u"BIST ldo3: 18\r\n[0011AABB:CCDD2233] :-) "_s, Kind::Missing);
+        add("nothing behind the label", u"BIST ldo3:"_s, Kind::Missing);
+    }
+
+    void valuesBehindLabels()
+    {
+        QFETCH(QString, reply);
+        const LabelledValue found = valueBehind(reply, u"BIST ldo3:"_s);
+        QTEST(found.kind, "kind");
+        QTEST(found.value, "value");
+        QCOMPARE(valueBehind(reply, {}).kind, Kind::Missing);
+    }
+
+    void cutAnywhereGivesTheValueOrNothing()
+    {
+        const QString reply = u"\r\nBIST ldo3: 1800.0000 mV\r\n[0011AABB:CCDD2233] :-) "_s;
+        const qsizetype whole = u"\r\nBIST ldo3: 1800.0000 mV"_s.size();
+        for (qsizetype bytes = 0; bytes <= reply.size(); ++bytes) {
+            const LabelledValue found = valueBehind(reply.left(bytes), u"BIST ldo3:"_s);
+            QCOMPARE(found.kind, bytes < whole ? Kind::Missing : Kind::Volt);
+            QCOMPARE(found.line, bytes < whole ? QString() : u"BIST ldo3: 1800.0000 mV"_s);
+        }
+    }
+
+    void lostBytesNeverMakeAnotherNumber()
+    {
+        const QString line = u"BIST ldo3: 1800.0000 mV"_s;
+        for (qsizetype bytes = 0; bytes < line.size(); ++bytes) {
+            const QString noisy = line.left(bytes) + u"\r\nBIST ldo4: 900.0000 mV\r\n[0011AABB:CCDD2233] :-) "_s;
+            QCOMPARE(valueBehind(noisy, u"BIST ldo3:"_s).kind, Kind::Missing);
+        }
+    }
+
+    void labelsTooFarBackAreNotFound()
+    {
+        const QString line = u"BIST ldo3: 1800.0000 mV\n"_s;
+        QCOMPARE(valueBehind(QString(32766, u'x') + line, u"BIST ldo3:"_s).kind, Kind::Volt);
+        QCOMPARE(valueBehind(QString(32767, u'x') + line, u"BIST ldo3:"_s).kind, Kind::Missing);
+    }
+
+    void evaluatesRows_data()
+    {
+        QTest::addColumn<Case>("given");
+
+        const auto add = [](const char *fault, const Case &given) { QTest::newRow(fault) << given; };
+        const auto ldo3 = [](const QString &value) { return "BIST ldo3: "_L1 + value + " mV\n"_L1; };
+        const auto ildo3 = [](const QString &value) { return "BIST ildo3: "_L1 + value + " mA\n"_L1; };
+        const auto milli = [&](const QString &value, int decimals, const QString &shown) {
+            return Case{.reply = ildo3(value), .refT = u"63"_s, .leitura = shown, .milli = decimals};
+        };
+        const QString none = u"Sem Medição*"_s;
+        const QString healthy = ldo3(u"3000.0000"_s);
+
+        add("one decimal", {ldo3(u"1800.0000"_s), u"43"_s, u"1.800"_s, u"1.8 V"_s, u"0 %"_s, Verdict::Pass, 1});
+        add("cut, not rounded",
+            {ldo3(u"1799.9000"_s), u"43"_s, u"1.800"_s, u"1.79 V"_s, u"-0.1 %"_s, Verdict::Pass, 2});
+        add("ten per cent high", {ldo3(u"3300.0000"_s), u"43"_s, u"3.000"_s, u"3.300 V"_s, u"10 %"_s, Verdict::Fail});
+        add("just inside", {ldo3(u"3299.0000"_s), u"43"_s, u"3.000"_s, u"3.299 V"_s, u"9.9 %"_s, Verdict::Pass});
+        add("ten per cent low", {ldo3(u"2700.0000"_s), u"43"_s, u"3.000"_s, u"2.700 V"_s, u"-10 %"_s, Verdict::Fail});
+        add("just inside below", {ldo3(u"2701.0000"_s), u"43"_s, u"3.000"_s, u"2.701 V"_s, u"-9.9 %"_s, Verdict::Pass});
+        add("dead rail", {ldo3(u"0.0000"_s), u"43"_s, u"3.000"_s, u"0 V"_s, u"-100 %"_s, Verdict::Fail});
+        add("negative reading", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"-0.012 V"_s});
+        add("negative reading at one decimal", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"0 V"_s, {}, Verdict::None, 1});
+        add("above ten volts the cut counts characters", {ldo3(u"12345.0000"_s), u"43"_s, {}, u"12.34 V"_s});
+        add("nothing to judge at nominal 0", {ldo3(u"725.1234"_s), u"43"_s, u"0"_s, u"0.725 V"_s, u"0 %"_s});
+        add("nominal 0.000 divides nothing", {ldo3(u"500.0000"_s), u"43"_s, u"0.000"_s, u"0.500 V"_s});
+        add("time-out", {ldo3(u"timeout"_s), u"43"_s, u"3.000"_s, none, u"-100 %"_s, Verdict::Incomplete});
+        add("time-out without a reference", {ldo3(u"timeout"_s), u"43"_s, {}, none});
+        add("missing line", {u"BIST ldo4: 3000.0000 mV\n"_s, u"43"_s, u"3.000"_s, none, u"0 %"_s, Verdict::Incomplete});
+        add("missing line without a reference", {{}, u"43"_s, {}, none});
+        add("row without a reading index", {healthy, {}, u"3.000"_s, {}});
+        add("hole in the numbering", {healthy, u"17"_s, {}, none});
+
+        add("current without decimals", milli(u"96.6610"_s, 0, u"96 mA"_s));
+        add("current at three decimals", milli(u"96.6610"_s, 3, u"96,661 mA"_s));
+        add("current without a point", milli(u"125"_s, 2, u"12 mA"_s));
+        add("current cut to its reference's decimals",
+            {ildo3(u"1.6999"_s), u"63"_s, u"1.70"_s, u"1,6 mA"_s, u"-0.1 %"_s, Verdict::Pass});
+        add("current padded to its reference's decimals",
+            {ildo3(u"96.6610"_s), u"63"_s, u"96.6610"_s, u"96,6 mA"_s, u"0 %"_s, Verdict::Pass});
+
+        const auto firstCore = [](const QString &model, const QString &shown) {
+            return Case{.reply = u"ibuck0: 96.6610 mA\n"_s,
+                        .refT = u"20"_s,
+                        .leitura = shown,
+                        .model = model,
+                        .orig = u"mA Buck0"_s};
+        };
+        add("first core hidden on 8", firstCore(u"IP 8"_s, u"*"_s));
+        add("first core hidden on X", firstCore(u"IP X"_s, u"*"_s));
+        add("first core measured on 7", firstCore(u"IP 7"_s, u"96,6 mA"_s));
+        add("graphics core looks measured", {.reply = u"BIST buck1: 0.0000 mV\n"_s,
+                                             .refT = u"1"_s,
+                                             .refV = u"0.900"_s,
+                                             .leitura = u"*"_s,
+                                             .porc = u"0 %"_s,
+                                             .orig = u"Buck1"_s});
+        add("camera rail called dead",
+            {.reply = ldo3(u"0.0000"_s), .refV = u"2.800"_s, .leitura = u"*"_s, .porc = u"0 %"_s, .ci = u"CAM"_s});
+    }
+
+    void evaluatesRows()
+    {
+        QFETCH(Case, given);
+        const EvaluatedRail rail = evaluated(given);
+        QCOMPARE(rail.row.leitura, given.leitura);
+        QCOMPARE(rail.row.porc, given.porc);
+        QCOMPARE(rail.verdict, given.verdict);
+        QCOMPARE(rail.indexUnknown, given.refT == "17"_L1);
+    }
 };
-
-void TestKit::judgesAtTheLimit()
-{
-    const Rule rule = Rule::tenPercent();
-    QCOMPARE(judged(10.0, rule), Verdict::Fail);
-    QCOMPARE(judged(-10.0, rule), Verdict::Fail);
-    QCOMPARE(judged(9.9, rule), Verdict::Pass);
-    QCOMPARE(judged(-9.9, rule), Verdict::Pass);
-    QCOMPARE(judged({}, rule), Verdict::Incomplete);
-    QCOMPARE(worst(Verdict::Incomplete, Verdict::Fail), Verdict::Fail);
-    QCOMPARE(worst(Verdict::Incomplete, Verdict::Pass), Verdict::Incomplete);
-}
-
-void TestKit::labelsOfIndices()
-{
-    QCOMPARE(BistLabel(u"11"_s), u"BIST buck11:"_s);
-    QCOMPARE(BistLabel(u"12"_s), u"BIST buck3_sw1:"_s);
-    QCOMPARE(BistLabel(u"16"_s), u"BIST buck4_sw2:"_s);
-    QCOMPARE(BistLabel(u"31"_s), u"ibuck11:"_s);
-    QCOMPARE(BistLabel(u"59"_s), u"BIST ldo19:"_s);
-    QCOMPARE(BistLabel(u"60"_s), u"BIST ildo0:"_s);
-    QCOMPARE(BistLabel(u"80"_s), u"BIST ibuf_1v2:"_s);
-    QCOMPARE(BistLabel(u"82"_s), u"BIST vrtc:"_s);
-    for (const auto &hole : {u"17"_s, u"19"_s, u"32"_s, u"39"_s, u"83"_s, u"-1"_s, u"05"_s, u" 5"_s, u"+5"_s, u"x"_s})
-        QCOMPARE(BistLabel(hole), QString());
-}
-
-void TestKit::valuesBehindLabels_data()
-{
-    QTest::addColumn<QString>("reply");
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QString>("value");
-
-    const auto add = [](const char *fault, const QString &reply, Kind kind, const QString &value = {}) {
-        QTest::newRow(fault) << reply << kind << value;
-    };
-    add("a whole line", u"x\r\nBIST ldo3: 1800.0000 mV\r\ny"_s, Kind::Volt, u"1.800"_s);
-    add("a current loses its last digit", u"BIST ldo3: 36.5238 mA\n"_s, Kind::Milliampere, u"36,523"_s);
-    add("the first of two answers counts", u"BIST ldo3: 1.0000 mV\nBIST ldo3: 9.0000 mV\n"_s, Kind::Volt, u"0.001"_s);
-    add("another output that begins alike", u"BIST ldo13: 1.0000 mV\nBIST ildo3: 9.0000 mA\n"_s, Kind::Missing);
-    add("a label in other letter case", u"bist LDO3: 1800.0000 mV\n"_s, Kind::Missing);
-    add("time-out", u"BIST ldo3: timeout mV\n"_s, Kind::TimedOut, u"timeout"_s);
-    add("whole millivolts without a point", u"BIST ldo3: -800 mV\n"_s, Kind::Volt, u"-0.800"_s);
-    add("noise in the number", u"BIST ldo3: 18q0.0000 mV\n"_s, Kind::Missing);
-    add("two blanks", u"BIST ldo3:  1800.0000 mV\n"_s, Kind::Missing);
-    add("number cut by a line end that a blank follows", u"BIST ldo3: 18\n mV"_s, Kind::Missing);
-    add("half of the unit", u"BIST ldo3: 1800.0000 m\r\nBIST ldo4: 1.0000 mV\n"_s, Kind::Missing);
-    add("number cut, then the prompt", u"BIST ldo3: 18\r\n[0011AABB:CCDD2233] :-) "_s, Kind::Missing);
-    add("nothing behind the label", u"BIST ldo3:"_s, Kind::Missing);
-}
-
-void TestKit::valuesBehindLabels()
-{
-    QFETCH(QString, reply);
-    const LabelledValue found = valueBehind(reply, u"BIST ldo3:"_s);
-    QTEST(found.kind, "kind");
-    QTEST(found.value, "value");
-    QCOMPARE(valueBehind(reply, {}).kind, Kind::Missing);
-}
-
-void TestKit::cutAnywhereGivesTheValueOrNothing()
-{
-    const QString reply = u"\r\nBIST ldo3: 1800.0000 mV\r\n[0011AABB:CCDD2233] :-) "_s;
-    const qsizetype whole = u"\r\nBIST ldo3: 1800.0000 mV"_s.size();
-    for (qsizetype bytes = 0; bytes <= reply.size(); ++bytes) {
-        const LabelledValue found = valueBehind(reply.left(bytes), u"BIST ldo3:"_s);
-        QCOMPARE(found.kind, bytes < whole ? Kind::Missing : Kind::Volt);
-        QCOMPARE(found.line, bytes < whole ? QString() : u"BIST ldo3: 1800.0000 mV"_s);
-    }
-}
-
-void TestKit::lostBytesNeverMakeAnotherNumber()
-{
-    const QString line = u"BIST ldo3: 1800.0000 mV"_s;
-    for (qsizetype bytes = 0; bytes < line.size(); ++bytes) {
-        const QString noisy = line.left(bytes) + u"\r\nBIST ldo4: 900.0000 mV\r\n[0011AABB:CCDD2233] :-) "_s;
-        QCOMPARE(valueBehind(noisy, u"BIST ldo3:"_s).kind, Kind::Missing);
-    }
-}
-
-void TestKit::labelsTooFarBackAreNotFound()
-{
-    const QString line = u"BIST ldo3: 1800.0000 mV\n"_s;
-    QCOMPARE(valueBehind(QString(32766, u'x') + line, u"BIST ldo3:"_s).kind, Kind::Volt);
-    QCOMPARE(valueBehind(QString(32767, u'x') + line, u"BIST ldo3:"_s).kind, Kind::Missing);
-}
-
-void TestKit::evaluatesRows_data()
-{
-    QTest::addColumn<Case>("given");
-
-    const auto add = [](const char *fault, const Case &given) { QTest::newRow(fault) << given; };
-    const auto ldo3 = [](const QString &value) { return "BIST ldo3: "_L1 + value + " mV\n"_L1; };
-    const auto ildo3 = [](const QString &value) { return "BIST ildo3: "_L1 + value + " mA\n"_L1; };
-    const auto milli = [&](const QString &value, int decimals, const QString &shown) {
-        return Case{.reply = ildo3(value), .refT = u"63"_s, .leitura = shown, .milli = decimals};
-    };
-    const QString none = u"Sem Medição*"_s;
-    const QString healthy = ldo3(u"3000.0000"_s);
-
-    add("one decimal", {ldo3(u"1800.0000"_s), u"43"_s, u"1.800"_s, u"1.8 V"_s, u"0 %"_s, Verdict::Pass, 1});
-    add("cut, not rounded", {ldo3(u"1799.9000"_s), u"43"_s, u"1.800"_s, u"1.79 V"_s, u"-0.1 %"_s, Verdict::Pass, 2});
-    add("ten per cent high", {ldo3(u"3300.0000"_s), u"43"_s, u"3.000"_s, u"3.300 V"_s, u"10 %"_s, Verdict::Fail});
-    add("just inside", {ldo3(u"3299.0000"_s), u"43"_s, u"3.000"_s, u"3.299 V"_s, u"9.9 %"_s, Verdict::Pass});
-    add("ten per cent low", {ldo3(u"2700.0000"_s), u"43"_s, u"3.000"_s, u"2.700 V"_s, u"-10 %"_s, Verdict::Fail});
-    add("just inside below", {ldo3(u"2701.0000"_s), u"43"_s, u"3.000"_s, u"2.701 V"_s, u"-9.9 %"_s, Verdict::Pass});
-    add("dead rail", {ldo3(u"0.0000"_s), u"43"_s, u"3.000"_s, u"0 V"_s, u"-100 %"_s, Verdict::Fail});
-    add("negative reading", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"-0.012 V"_s});
-    add("negative reading at one decimal", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"0 V"_s, {}, Verdict::None, 1});
-    add("above ten volts the cut counts characters", {ldo3(u"12345.0000"_s), u"43"_s, {}, u"12.34 V"_s});
-    add("nothing to judge at nominal 0", {ldo3(u"725.1234"_s), u"43"_s, u"0"_s, u"0.725 V"_s, u"0 %"_s});
-    add("nominal 0.000 divides nothing", {ldo3(u"500.0000"_s), u"43"_s, u"0.000"_s, u"0.500 V"_s});
-    add("time-out", {ldo3(u"timeout"_s), u"43"_s, u"3.000"_s, none, u"-100 %"_s, Verdict::Incomplete});
-    add("time-out without a reference", {ldo3(u"timeout"_s), u"43"_s, {}, none});
-    add("missing line", {u"BIST ldo4: 3000.0000 mV\n"_s, u"43"_s, u"3.000"_s, none, u"0 %"_s, Verdict::Incomplete});
-    add("missing line without a reference", {{}, u"43"_s, {}, none});
-    add("row without a reading index", {healthy, {}, u"3.000"_s, {}});
-    add("hole in the numbering", {healthy, u"17"_s, {}, none});
-
-    add("current without decimals", milli(u"96.6610"_s, 0, u"96 mA"_s));
-    add("current at three decimals", milli(u"96.6610"_s, 3, u"96,661 mA"_s));
-    add("negative current", milli(u"-0.5999"_s, 1, u"-0,5 mA"_s));
-    add("current without a point", milli(u"125"_s, 2, u"12 mA"_s));
-    add("current cut to its reference's decimals",
-        {ildo3(u"1.6999"_s), u"63"_s, u"1.70"_s, u"1,6 mA"_s, u"-0.1 %"_s, Verdict::Pass});
-    add("current padded to its reference's decimals",
-        {ildo3(u"96.6610"_s), u"63"_s, u"96.6610"_s, u"96,6 mA"_s, u"0 %"_s, Verdict::Pass});
-
-    const auto firstCore = [](const QString &model, const QString &shown) {
-        return Case{.reply = u"ibuck0: 96.6610 mA\n"_s,
-                    .refT = u"20"_s,
-                    .leitura = shown,
-                    .model = model,
-                    .orig = u"mA Buck0"_s};
-    };
-    add("first core hidden on 8", firstCore(u"IP 8"_s, u"*"_s));
-    add("first core hidden on 8 Plus", firstCore(u"IP 8 Plus"_s, u"*"_s));
-    add("first core hidden on X", firstCore(u"IP X"_s, u"*"_s));
-    add("first core measured on 7", firstCore(u"IP 7"_s, u"96,6 mA"_s));
-    add("graphics core looks measured", {.reply = u"BIST buck1: 0.0000 mV\n"_s,
-                                         .refT = u"1"_s,
-                                         .refV = u"0.900"_s,
-                                         .leitura = u"*"_s,
-                                         .porc = u"0 %"_s,
-                                         .orig = u"Buck1"_s});
-    add("camera rail called dead",
-        {.reply = ldo3(u"0.0000"_s), .refV = u"2.800"_s, .leitura = u"*"_s, .porc = u"0 %"_s, .ci = u"CAM"_s});
-}
-
-void TestKit::evaluatesRows()
-{
-    QFETCH(Case, given);
-    const EvaluatedRail rail = evaluated(given);
-    QCOMPARE(rail.row.leitura, given.leitura);
-    QCOMPARE(rail.row.porc, given.porc);
-    QCOMPARE(rail.verdict, given.verdict);
-    QCOMPARE(rail.indexUnknown, given.refT == "17"_L1);
-}
 
 QTEST_GUILESS_MAIN(TestKit)
 #include "tst_kit.moc"
