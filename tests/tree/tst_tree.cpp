@@ -98,134 +98,103 @@ class TestTree : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanup();
-    void rule_data();
-    void rule();
-    void cmakeListsAndIncludeLinesAreRead();
-    void everyTargetHasAPlace();
-    void everySourceIsBuilt();
-    void headerNamesAreUnique();
-    void includesPointToTheLeft();
-    void linksPointToTheLeft();
-    void widgetsStayAboveTheirLayer();
+    void initTestCase()
+    {
+        m_tree = readTree(QStringLiteral(PRELT_SOURCE_DIR "/src"));
+        m_widgets = widgetHeaders();
+        QVERIFY(m_tree.includes.size() > 20);
+        QVERIFY(m_widgets.contains(u"QLabel"_s) && m_widgets.contains(u"qlabel.h"_s));
+        QVERIFY(!m_widgets.contains(u"QString"_s));
+    }
+
+    void cleanup()
+    {
+        const QStringList faults = std::exchange(m_faults, {});
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    void rule()
+    {
+        QVERIFY(mayUse(u"prelt_power_forms"_s, u"prelt_power"_s));
+        QVERIFY(!mayUse(u"prelt_power_forms"_s, u"prelt_chips_forms"_s)); // a sister
+        QVERIFY(!mayUse(u"prelt_session"_s, u"prelt_kit"_s));             // to the right
+        QVERIFY(mayUse(u"prelt"_s, u"prelt_sim"_s) && !mayUse(u"prelt_session"_s, u"prelt_sim"_s));
+    }
+
+    void cmakeListsAndIncludeLinesAreRead()
+    {
+        const QList<Target> targets = targetsIn(
+            u"# prelt_layer(no)\nprelt_layer(a\n  SOURCES x.cpp y.h\n  LINKS b Qt6::Core)\nprelt_program(c SOURCES m.cpp)"_s,
+            u"f"_s);
+        QCOMPARE(targets.size(), 2);
+        QCOMPARE(targets[0].sources, QStringList({u"x.cpp"_s, u"y.h"_s}));
+        QCOMPARE(targets[0].links, QStringList({u"b"_s, u"Qt6::Core"_s}));
+        QCOMPARE(targets[1].name, u"c"_s);
+        QCOMPARE(headersNamedIn(u"#include \"a.h\"\n  # include <QLabel>\n// #include \"c.h\"\n"_s),
+                 QStringList({u"a.h"_s, u"QLabel"_s}));
+    }
+
+    void everyTargetHasAPlace()
+    {
+        for (const Target &target : std::as_const(m_tree.targets)) {
+            if (!placeOf(target.name))
+                m_faults << target.name + u" has no place among the layers"_s;
+        }
+    }
+
+    void everySourceIsBuilt()
+    {
+        for (const QString &file : std::as_const(m_tree.files)) {
+            if (!m_tree.ownerOf.contains(file))
+                m_faults << file + u" is built by no target"_s;
+        }
+    }
+
+    void headerNamesAreUnique()
+    {
+        QHash<QString, QString> seen;
+        for (const QString &file : m_tree.files.filter(QRegularExpression(u"\\.h$"_s))) {
+            const QString name = QFileInfo(file).fileName();
+            if (seen.contains(name))
+                m_faults << file + u" is named like "_s + seen.value(name);
+            seen.insert(name, file);
+        }
+    }
+
+    void includesPointToTheLeft()
+    {
+        for (const Include &include : std::as_const(m_tree.includes)) {
+            const QString used = m_tree.ownerOfHeader(include.header);
+            if (!used.isEmpty() && !mayUse(include.target, used))
+                m_faults << u"%1 of %2 includes %3 of %4"_s.arg(include.file, include.target, include.header, used);
+        }
+    }
+
+    void linksPointToTheLeft()
+    {
+        for (const Target &target : std::as_const(m_tree.targets)) {
+            for (const QString &link : target.links) {
+                const bool allowed = link == u"Qt6::Widgets" ? mayShow(target.name)
+                                                             : !link.startsWith(u"prelt") || mayUse(target.name, link);
+                if (!allowed)
+                    m_faults << u"%1 links %2"_s.arg(target.name, link);
+            }
+        }
+    }
+
+    void widgetsStayAboveTheirLayer()
+    {
+        for (const Include &include : std::as_const(m_tree.includes)) {
+            if (!mayShow(include.target) && namesWidgets(include.header, m_widgets))
+                m_faults << u"%1 of %2 includes <%3>"_s.arg(include.file, include.target, include.header);
+        }
+    }
 
 private:
     SourceTree m_tree;
     QSet<QString> m_widgets;
     QStringList m_faults; ///< of the running test, told all at once
 };
-
-void TestTree::initTestCase()
-{
-    m_tree = readTree(QStringLiteral(PRELT_SOURCE_DIR "/src"));
-    m_widgets = widgetHeaders();
-    QVERIFY(m_tree.includes.size() > 20);
-    QVERIFY(m_widgets.contains(u"QLabel"_s) && m_widgets.contains(u"qlabel.h"_s));
-    QVERIFY(!m_widgets.contains(u"QString"_s));
-}
-
-void TestTree::rule_data()
-{
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QString>("used");
-    QTest::addColumn<bool>("allowed");
-    QTest::newRow("to the left") << u"prelt_kit"_s << u"prelt_text"_s << true;
-    QTest::newRow("within") << u"prelt_kit"_s << u"prelt_kit"_s << true;
-    QTest::newRow("to the right") << u"prelt_session"_s << u"prelt_kit"_s << false;
-    QTest::newRow("to a sister") << u"prelt_power"_s << u"prelt_chips"_s << false;
-    QTest::newRow("a form to another folder's form") << u"prelt_power_forms"_s << u"prelt_chips_forms"_s << false;
-    QTest::newRow("a form to its screen") << u"prelt_power_forms"_s << u"prelt_power"_s << true;
-    QTest::newRow("the terminal to widgets") << u"prelt"_s << u"prelt_widgets"_s << false;
-    QTest::newRow("the terminal to the survey") << u"prelt"_s << u"prelt_survey"_s << true;
-    QTest::newRow("the terminal to the simulated phone") << u"prelt"_s << u"prelt_sim"_s << true;
-    QTest::newRow("the session to the simulated phone") << u"prelt_session"_s << u"prelt_sim"_s << false;
-    QTest::newRow("the simulated phone to the session") << u"prelt_sim"_s << u"prelt_session"_s << false;
-    QTest::newRow("the window to the terminal's pieces") << u"tavimo-prelt"_s << u"prelt_cli"_s << false;
-    QTest::newRow("a program to the other") << u"tavimo-prelt"_s << u"prelt"_s << false;
-}
-
-void TestTree::rule()
-{
-    QFETCH(const QString, user);
-    QFETCH(const QString, used);
-    QTEST(mayUse(user, used), "allowed");
-}
-
-void TestTree::cmakeListsAndIncludeLinesAreRead()
-{
-    const QList<Target> targets = targetsIn(
-        u"# prelt_layer(no)\nprelt_layer(a\n  SOURCES x.cpp y.h\n  LINKS b Qt6::Core)\nprelt_program(c SOURCES m.cpp)"_s,
-        u"f"_s);
-    QCOMPARE(targets.size(), 2);
-    QCOMPARE(targets[0].sources, QStringList({u"x.cpp"_s, u"y.h"_s}));
-    QCOMPARE(targets[0].links, QStringList({u"b"_s, u"Qt6::Core"_s}));
-    QCOMPARE(targets[1].name, u"c"_s);
-    QCOMPARE(headersNamedIn(u"#include \"a.h\"\n  # include <QLabel>\n// #include \"c.h\"\n"_s),
-             QStringList({u"a.h"_s, u"QLabel"_s}));
-}
-
-void TestTree::everyTargetHasAPlace()
-{
-    for (const Target &target : std::as_const(m_tree.targets)) {
-        if (!placeOf(target.name))
-            m_faults << target.name + u" has no place among the layers"_s;
-    }
-}
-
-void TestTree::everySourceIsBuilt()
-{
-    for (const QString &file : std::as_const(m_tree.files)) {
-        if (!m_tree.ownerOf.contains(file))
-            m_faults << file + u" is built by no target"_s;
-    }
-}
-
-void TestTree::headerNamesAreUnique()
-{
-    QHash<QString, QString> seen;
-    for (const QString &file : m_tree.files.filter(QRegularExpression(u"\\.h$"_s))) {
-        const QString name = QFileInfo(file).fileName();
-        if (seen.contains(name))
-            m_faults << file + u" is named like "_s + seen.value(name);
-        seen.insert(name, file);
-    }
-}
-
-void TestTree::includesPointToTheLeft()
-{
-    for (const Include &include : std::as_const(m_tree.includes)) {
-        const QString used = m_tree.ownerOfHeader(include.header);
-        if (!used.isEmpty() && !mayUse(include.target, used))
-            m_faults << u"%1 of %2 includes %3 of %4"_s.arg(include.file, include.target, include.header, used);
-    }
-}
-
-void TestTree::linksPointToTheLeft()
-{
-    for (const Target &target : std::as_const(m_tree.targets)) {
-        for (const QString &link : target.links) {
-            const bool allowed = link == u"Qt6::Widgets" ? mayShow(target.name)
-                                                         : !link.startsWith(u"prelt") || mayUse(target.name, link);
-            if (!allowed)
-                m_faults << u"%1 links %2"_s.arg(target.name, link);
-        }
-    }
-}
-
-void TestTree::widgetsStayAboveTheirLayer()
-{
-    for (const Include &include : std::as_const(m_tree.includes)) {
-        if (!mayShow(include.target) && namesWidgets(include.header, m_widgets))
-            m_faults << u"%1 of %2 includes <%3>"_s.arg(include.file, include.target, include.header);
-    }
-}
-
-void TestTree::cleanup()
-{
-    const QStringList faults = std::exchange(m_faults, {});
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-}
 
 QTEST_GUILESS_MAIN(TestTree)
 #include "tst_tree.moc"
