@@ -1,23 +1,46 @@
 #pragma once
 
 #include "buckldoscreen.h"
+#include "home.h"
 #include "phoneprofile.h"
+#include "seeds.h"
 
 #include <QTemporaryDir>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+inline PhoneProfile phone(const QString &description)
+{
+    const Result<PhoneProfile> profile = profileFor(description);
+    return profile ? *profile : PhoneProfile{};
+}
 
 /// A phone that answers a command at once, whole or up to the byte at which the cable is pulled.
 class PhonePort : public Port
 {
-    Q_OBJECT
-
 public:
-    Result<Done> open(const QString &device) override;
+    Result<Done> open(const QString &) override
+    {
+        m_open = true;
+        m_arrived.clear();
+        return Done{};
+    }
     void close() override { m_open = false; }
     bool isOpen() const override { return m_open; }
-    void write(const QByteArray &bytes) override;
+    void write(const QByteArray &bytes) override
+    {
+        commands.append(bytes.chopped(1));
+        m_arrived += answer(phone, bytes.chopped(1)).left(keptBytes);
+    }
     QByteArray read() override { return std::exchange(m_arrived, {}); }
     void discardInput() override { m_arrived.clear(); }
-    void pull();
+    void pull()
+    {
+        m_open = false;
+        emit lost();
+    }
 
     PhoneProfile phone;
     static constexpr qsizetype kAll = 1'000'000;
@@ -34,7 +57,11 @@ class ScriptedBoxes : public Boxes
 {
 public:
     void message(const Trouble &trouble) override { keys.append(trouble.what.key); }
-    void ask(const Question &question, std::function<void(Answer)> answered) override;
+    void ask(const Question &question, std::function<void(Answer)> answered) override
+    {
+        questions.append(question.text);
+        answered(answer);
+    }
 
     QStringList keys;
     QStringList questions;
@@ -44,15 +71,53 @@ public:
 /// The screen with its session, a store made from the seeds, and a phone; the test is the clock.
 struct RailBench
 {
-    explicit RailBench(const QString &description);
+    explicit RailBench(const QString &description)
+    {
+        port.phone = phone(description);
+        const QString path = configStore(folder.path());
+        if (!createStore(path))
+            qFatal("no store for the test");
+        store = std::make_unique<StoreQueue>(path, StoreQueue::Waiting::Blocking);
+        const auto deviceFor = [](const PortAddress &) -> Result<QString> { return u"phone"_s; };
+        session = std::make_unique<Session>(SessionParts{port, *store, boxes, deviceFor});
+        session->load();
+        screen = std::make_unique<BuckLdoScreen>(*session);
+        screen->open();
+    }
 
-    void connectPhone();
+    void connectPhone()
+    {
+        session->connectOrDisconnect(u"1"_s);
+        gatherReply();
+        session->TimerValidaPorta_Timer();
+    }
     /// Polls until the link is idle.
-    void gatherReply();
-    void readKind(int kind);
-    Row shown(const QString &orig) const;
+    void gatherReply()
+    {
+        session->Timer1_Timer();
+        for (int poll = 0; poll < 400 && session->Status() != "1"_L1; ++poll)
+            session->Timer2_Timer();
+    }
+    void readKind(int kind)
+    {
+        screen->chooseKind(kind);
+        screen->read();
+        gatherReply();
+    }
+    Row shown(const QString &orig) const
+    {
+        const QList<Row> &rows = screen->panel().rows;
+        const auto found = std::ranges::find_if(rows, [&](const Row &row) { return row.cell(u"Orig") == orig; });
+        return found == rows.end() ? Row{} : *found;
+    }
     /// A row as the store holds it.
-    RailRow stored(const QString &model, int kind, const QString &orig);
+    RailRow stored(const QString &model, int kind, const QString &orig)
+    {
+        const Result<Store> open = Store::open(configStore(folder.path()), Store::Access::Read, {});
+        const QList<RailRow> rows = *railRows(*open, {model, kind});
+        const auto found = std::ranges::find(rows, orig, &RailRow::orig);
+        return found == rows.end() ? RailRow{} : *found;
+    }
 
     QTemporaryDir folder;
     PhonePort port;
@@ -61,5 +126,3 @@ struct RailBench
     std::unique_ptr<Session> session;
     std::unique_ptr<BuckLdoScreen> screen;
 };
-
-PhoneProfile phone(const QString &description);
