@@ -1,7 +1,8 @@
+#include "columns.h"
+#include "data/otherprogram.h"
 #include "replycodes.h"
 #include "sessionbench.h"
 
-#include <QSqlError>
 #include <QTest>
 
 #include <map>
@@ -21,27 +22,6 @@ struct ReadyBench : SessionBench
     }
 };
 
-/// Another program that holds the store.
-class StoreLock
-{
-public:
-    explicit StoreLock(const QString &path) : m_database(QSqlDatabase::addDatabase(u"QSQLITE"_s, u"lock"_s))
-    {
-        m_database.setDatabaseName(path);
-        m_held = m_database.open() && m_database.exec(u"BEGIN EXCLUSIVE"_s).lastError().type() == QSqlError::NoError;
-    }
-    ~StoreLock()
-    {
-        m_database = {};
-        QSqlDatabase::removeDatabase(u"lock"_s);
-    }
-    bool isHeld() const { return m_held; }
-
-private:
-    QSqlDatabase m_database;
-    bool m_held = false;
-};
-
 } // namespace
 
 /// Commands on their way out, replies on their way to the screens, and work on its way to the store.
@@ -50,234 +30,216 @@ class TestDispatch : public QObject
     Q_OBJECT
 
 private slots:
-    void sendingIsRefused();
-    void bytesAreWritten();
-    void lineDiesOnWriting();
-    void gathering_data();
-    void gathering();
-    void echoIsStrippedForItsCodes();
-    void lateReplyOfAClosedScreen();
-    void lossAtEveryByte();
-    void lockedStoreIsToldAtLast();
-    void workKeepsItsOrder();
-};
-
-void TestDispatch::sendingIsRefused()
-{
-    SessionBench bench;
-    const auto refusal = [&](const QString &command = u"i2c -s 0"_s) {
-        bench.log.clear();
-        bench.port.journal.clear();
-        const bool sent = bench.session.request(u"15"_s, command) || bench.session.requestModel(u"15"_s);
-        return sent || !bench.port.journal.isEmpty() ? u"sent"_s : bench.log.value(0);
-    };
-    QCOMPARE(refusal(), u"REFUSED_NOT_CONNECTED"_s);
-    bench.connectWith(answered("syscfg print RMd#", "A1660"));
-    QCOMPARE(refusal(), u"REFUSED_NOT_CONNECTED"_s); // delivered, but the handshake has not accepted
-    bench.session.TimerValidaPorta_Timer();
-    QVERIFY(bench.session.request(u"15"_s, u"i2c -s 0"_s));
-    QCOMPARE(refusal(), u"REFUSED_BUSY"_s);
-    bench.session.EnviaComando();
-    QCOMPARE(bench.log.last(), u"REFUSED_BUSY"_s);
-    QVERIFY(bench.port.journal.isEmpty());
-    bench.deliver();
-    QVERIFY(!bench.session.request(u"15"_s, QString())); // whoever believed it sent would wait for ever
-    QCOMPARE(bench.session.Status(), u"1"_s);
-}
-
-void TestDispatch::bytesAreWritten()
-{
-    ReadyBench bench;
-    bench.port.coming = {"a late line\n", kPromptBytes};
-    bench.port.answers = {{"bl \xE9\xFF\r\n\x80\xA0\xFF\n[0:0] :-) "}};
-    QVERIFY(bench.session.request(u"15"_s, u"bl \u00E9\u00FF"_s));
-    QCOMPARE(bench.port.journal, QList<QByteArray>({"discard", "bl \xE9\xFF\r"}));
-    QCOMPARE(bench.title, u"Comunicando..."_s);
-    bench.deliver();
-    QCOMPARE(bench.screen.last.reply, u"\r\nbl \u00E9\u00FF\r\r\n\u0080\u00A0\u00FF\r\n[0:0] :-) "_s);
-    QCOMPARE(bench.title, u"Tavimo Prelt"_s);
-}
-
-void TestDispatch::lineDiesOnWriting()
-{
-    ReadyBench bench;
-    bench.port.diesOnWrite = true;
-    QVERIFY(!bench.session.request(u"15"_s, u"i2c -s 0"_s));
-    QCOMPARE(bench.screen.events, QStringList{u"lost"_s});
-    bench.session.connectOrDisconnect(u"3"_s);
-    QCOMPARE(bench.session.Status(), u"0"_s);
-    bench.port.diesOnWrite = false;
-    bench.accept("SystemConfig Driver is missing!");
-    bench.port.diesOnWrite = true;
-    QVERIFY(!bench.session.requestModel(u"15"_s));
-    QCOMPARE(bench.screen.events, QStringList({u"lost"_s, u"lost"_s}));
-}
-
-void TestDispatch::gathering_data()
-{
-    using Chunks = QList<QByteArray>;
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("speed");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<Chunks>("chunks");
-    QTest::addColumn<int>("polls");
-    QTest::addColumn<QString>("reply");
-    QTest::addColumn<bool>("cut");
-    const auto row = [](const char *name, const QString &code, const QString &speed, const Chunks &chunks, int polls,
-                        const QString &reply, bool cut, const QString &command = u"cmd"_s) {
-        QTest::newRow(name) << code << speed << command << chunks << polls << reply << cut;
-    };
-    const QString one = u"1"_s, two = u"2"_s, battery = u"19"_s;
-    const Chunks whole = {"ok\n:-) "};
-    const QString shownWhole = u"\r\nok\r\n:-) "_s;
-    row("prompt at once", one, one, whole, 1, shownWhole, false);
-    row("prompt at once, slow setting", one, two, whole, 2, shownWhole, false);
-    row("prompt at once, model query", one, one, whole, 2, shownWhole, false, u"syscfg print RMd#"_s);
-    row("prompt at once, battery", battery, one, whole, 7, shownWhole, false);
-    row("prompt in two halves ends by the count", one, one, {"ok\n:-", ") "}, 102, shownWhole, false);
-    row("nothing", one, one, {}, 1, {}, true);
-    row("nothing on the first poll", one, one, {"", "ok\n:-) "}, 1, {}, true);
-    row("no end", one, one, Chunks(400, "x"), 201, "\r\n"_L1 + QString(201, u'x'), true);
-}
-
-void TestDispatch::gathering()
-{
-    QFETCH(QString, code);
-    QFETCH(QString, speed);
-    QFETCH(QString, command);
-    QFETCH(QList<QByteArray>, chunks);
-    ReadyBench bench;
-    bench.session.attach(code, &bench.screen);
-    bench.session.chooseSpeed(speed);
-    bench.port.answers = {chunks};
-    QVERIFY(bench.session.request(code, command));
-    QTEST(bench.deliver(), "polls");
-    QCOMPARE(bench.screen.events, QStringList{u"taken"_s});
-    QCOMPARE(bench.screen.last.command, command);
-    QTEST(bench.screen.last.reply, "reply");
-    QTEST(bench.screen.last.cut, "cut");
-    QCOMPARE(bench.session.activeCode(), u"0"_s);
-    QVERIFY(bench.session.isReady());
-}
-
-void TestDispatch::echoIsStrippedForItsCodes()
-{
-    const QStringList stripped = {u"4"_s, u"6"_s, u"8"_s, u"9"_s, u"14"_s, u"17"_s};
-    const QStringList kept = {u"1"_s,  u"2"_s,  u"3"_s,  u"5"_s,  u"7"_s,  u"10"_s,
-                              u"12"_s, u"13"_s, u"15"_s, u"16"_s, u"18"_s, u"19"_s};
-    ReadyBench bench;
-    std::map<QString, Listener> screens;
-    for (const QString &code : stripped + kept)
-        bench.session.attach(code, &screens[code]);
-    for (const QString &code : stripped + kept) {
-        bench.port.answers = {{"nand -a\r\n", "nand -a of nand\n:-) "}};
-        QVERIFY(bench.session.request(code, u"nand -a"_s));
-        bench.deliver();
-        const QString whole = u"\r\nnand -a\r\r\nnand -a of nand\r\n:-) "_s;
-        const QString bare = u"\r\n\r\r\n of nand\r\n:-) "_s;
-        QCOMPARE(screens[code].last.reply, stripped.contains(code) ? bare : whole);
-    }
-    for (const auto &[code, screen] : screens)
-        QCOMPARE(screen.events.size(), 1); // each its own reply and no other's
-}
-
-void TestDispatch::lateReplyOfAClosedScreen()
-{
-    ReadyBench bench;
-    Listener again;
-    bench.port.answers = {{"ok\n", ":-) "}, {"ok\n:-) "}};
-    QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
-    bench.session.detach(&bench.screen);
-    bench.session.attach(u"15"_s, &again); // opened anew before the reply has come
-    bench.deliver();
-    QVERIFY(bench.screen.events.isEmpty());
-    QVERIFY(again.events.isEmpty());
-    QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
-    bench.deliver();
-    QCOMPARE(again.events, QStringList{u"taken"_s});
-
-    bench.session.connectOrDisconnect(u"3"_s);
-    bench.accept("SystemConfig Driver is missing!");
-    bench.port.answers = {{answered("syscfg print RMd#", "A1660")}};
-    QVERIFY(bench.session.requestModel(u"15"_s));
-    bench.session.detach(&again);
-    bench.session.attach(u"15"_s, &bench.screen);
-    bench.deliver();
-    bench.session.TimerVersao_Timer();
-    QVERIFY(bench.session.isModelKnown());
-    QVERIFY(bench.screen.events.isEmpty());
-}
-
-void TestDispatch::lossAtEveryByte()
-{
-    ReadyBench bench;
-    bench.session.chooseSpeed(u"2"_s); // a whole reply is still in flight after its first poll
-    const QByteArray reply = answered("cmd", "value 1.0 mV");
-    for (qsizetype bytes = 0; bytes <= 2 * reply.size(); ++bytes) {
-        const QByteArray came = reply.left(bytes / 2);
-        bench.port.answers = {{came}};
-        QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
-        if (bytes % 2 && !came.isEmpty())
-            bench.session.Timer1_Timer(); // else the bytes are still in the port
-        bench.port.die();
-        QCOMPARE(bench.screen.events, QStringList{u"lost"_s});
-        QCOMPARE(bench.screen.last.reply, came.isEmpty() ? QString() : shown(came));
-        QVERIFY(bench.screen.last.cut);
-        QCOMPARE(bench.session.Status(), u"0"_s);
-        QCOMPARE(bench.title, u"Tavimo Prelt"_s);
-        bench.session.TimerFecha_Timer();
-        QCOMPARE(bench.log, QStringList({u"lost"_s, u"MSG_PORTA_NAO_RESPONDE"_s, u"portsWanted"_s}));
-        bench.screen.events.clear();
-        bench.accept("A1660");
-        QVERIFY(bench.session.isReady());
-        bench.log.clear();
-    }
-}
-
-void TestDispatch::lockedStoreIsToldAtLast()
-{
-    SessionBench bench;
-    const StoreLock lock(bench.path);
-    QVERIFY(lock.isHeld());
-    bench.session.chooseModel(u"IP 7"_s); // clears the readings and is remembered: two units of work
-    for (int tick = 1; tick < 50; ++tick)
-        bench.store.TimerStore_Timer();
-    QVERIFY(bench.log.isEmpty());
-    bench.store.TimerStore_Timer();
-    QCOMPARE(bench.log, QStringList{u"STORE_LOCKED"_s});
-    for (int tick = 0; tick < 50; ++tick)
-        bench.store.TimerStore_Timer();
-    QCOMPARE(bench.log, QStringList({u"STORE_LOCKED"_s, u"STORE_LOCKED"_s}));
-}
-
-void TestDispatch::workKeepsItsOrder()
-{
-    SessionBench bench;
-    QStringList order;
-    auto gone = std::make_unique<QObject>();
-    const auto add = [&](const QString &name, QObject *context, const std::function<void()> &after = {}) {
-        const auto work = [&order, name](Store &) {
-            order.append(name);
-            return Result<Done>(Done{});
-        };
-        bench.store.run<Done>(Store::Access::Write, work, context, [&order, name, after](const Result<Done> &) {
-            order.append(name + " told"_L1);
-            if (after)
-                after();
-        });
-    };
+    void sendingIsRefused()
     {
-        const StoreLock lock(bench.path);
-        add(u"a"_s, &bench.session, [&] { add(u"d"_s, &bench.session); });
-        add(u"b"_s, gone.get());
-        add(u"c"_s, &bench.session);
-        gone.reset();
-        bench.store.TimerStore_Timer();
-        QVERIFY(order.isEmpty());
+        SessionBench bench;
+        const auto refusal = [&](const QString &command = u"i2c -s 0"_s) {
+            bench.log.clear();
+            bench.port.journal.clear();
+            const bool sent = bench.session.request(u"15"_s, command) || bench.session.requestModel(u"15"_s);
+            return sent || !bench.port.journal.isEmpty() ? u"sent"_s : bench.log.value(0);
+        };
+        QCOMPARE(refusal(), u"REFUSED_NOT_CONNECTED"_s);
+        bench.connectWith(answered("syscfg print RMd#", "A1660"));
+        QCOMPARE(refusal(), u"REFUSED_NOT_CONNECTED"_s); // delivered, but the handshake has not accepted
+        bench.session.TimerValidaPorta_Timer();
+        QVERIFY(bench.session.request(u"15"_s, u"i2c -s 0"_s));
+        QCOMPARE(refusal(), u"REFUSED_BUSY"_s);
+        bench.session.EnviaComando();
+        QCOMPARE(bench.log.last(), u"REFUSED_BUSY"_s);
+        QVERIFY(bench.port.journal.isEmpty());
+        bench.deliver();
+        QVERIFY(!bench.session.request(u"15"_s, QString())); // whoever believed it sent would wait for ever
+        QCOMPARE(bench.session.Status(), u"1"_s);
     }
-    bench.store.TimerStore_Timer();
-    QCOMPARE(order.join(u", "), u"a, a told, b, c, c told, d, d told"_s);
-}
+
+    void bytesAreWritten()
+    {
+        ReadyBench bench;
+        bench.port.coming = {"a late line\n", kPromptBytes};
+        bench.port.answers = {{"bl \xE9\xFF\r\n\x80\xA0\xFF\n[0:0] :-) "}};
+        QVERIFY(bench.session.request(u"15"_s, u"bl \u00E9\u00FF"_s));
+        QCOMPARE(bench.port.journal, QList<QByteArray>({"discard", "bl \xE9\xFF\r"}));
+        QCOMPARE(bench.title, u"Comunicando..."_s);
+        bench.deliver();
+        QCOMPARE(bench.screen.last.reply, u"\r\nbl \u00E9\u00FF\r\r\n\u0080\u00A0\u00FF\r\n[0:0] :-) "_s);
+        QCOMPARE(bench.title, u"Tavimo Prelt"_s);
+    }
+
+    void lineDiesOnWriting()
+    {
+        ReadyBench bench;
+        bench.port.diesOnWrite = true;
+        QVERIFY(!bench.session.request(u"15"_s, u"i2c -s 0"_s));
+        QCOMPARE(bench.screen.events, QStringList{u"lost"_s});
+        bench.session.connectOrDisconnect(u"3"_s);
+        QCOMPARE(bench.session.Status(), u"0"_s);
+        bench.port.diesOnWrite = false;
+        bench.accept("SystemConfig Driver is missing!");
+        bench.port.diesOnWrite = true;
+        QVERIFY(!bench.session.requestModel(u"15"_s));
+        QCOMPARE(bench.screen.events, QStringList({u"lost"_s, u"lost"_s}));
+    }
+
+    void gathering_data()
+    {
+        using Chunks = QList<QByteArray>;
+        columns<QString, QString, QString, Chunks, int, QString, bool>(
+            {"code", "speed", "command", "chunks", "polls", "reply", "cut"});
+        const auto row = [](const char *name, const QString &code, const QString &speed, const Chunks &chunks,
+                            int polls, const QString &reply, bool cut, const QString &command = u"cmd"_s) {
+            QTest::newRow(name) << code << speed << command << chunks << polls << reply << cut;
+        };
+        const QString one = u"1"_s, two = u"2"_s, battery = u"19"_s;
+        const Chunks whole = {"ok\n:-) "};
+        const QString shownWhole = u"\r\nok\r\n:-) "_s;
+        row("prompt at once", one, one, whole, 1, shownWhole, false);
+        row("prompt at once, slow setting", one, two, whole, 2, shownWhole, false);
+        row("prompt at once, model query", one, one, whole, 2, shownWhole, false, u"syscfg print RMd#"_s);
+        row("prompt at once, battery", battery, one, whole, 7, shownWhole, false);
+        row("nothing", one, one, {}, 1, {}, true);
+    }
+
+    void gathering()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, speed);
+        QFETCH(QString, command);
+        QFETCH(QList<QByteArray>, chunks);
+        ReadyBench bench;
+        bench.session.attach(code, &bench.screen);
+        bench.session.chooseSpeed(speed);
+        bench.port.answers = {chunks};
+        QVERIFY(bench.session.request(code, command));
+        QTEST(bench.deliver(), "polls");
+        QCOMPARE(bench.screen.events, QStringList{u"taken"_s});
+        QCOMPARE(bench.screen.last.command, command);
+        QTEST(bench.screen.last.reply, "reply");
+        QTEST(bench.screen.last.cut, "cut");
+        QCOMPARE(bench.session.activeCode(), u"0"_s);
+        QVERIFY(bench.session.isReady());
+    }
+
+    void echoIsStrippedForItsCodes()
+    {
+        const QStringList stripped = {u"4"_s, u"6"_s, u"8"_s, u"9"_s, u"14"_s, u"17"_s};
+        const QStringList kept = {u"1"_s,  u"2"_s,  u"3"_s,  u"5"_s,  u"7"_s,  u"10"_s,
+                                  u"12"_s, u"13"_s, u"15"_s, u"16"_s, u"18"_s, u"19"_s};
+        ReadyBench bench;
+        std::map<QString, Listener> screens;
+        for (const QString &code : stripped + kept)
+            bench.session.attach(code, &screens[code]);
+        for (const QString &code : stripped + kept) {
+            bench.port.answers = {{"nand -a\r\n", "nand -a of nand\n:-) "}};
+            QVERIFY(bench.session.request(code, u"nand -a"_s));
+            bench.deliver();
+            const QString whole = u"\r\nnand -a\r\r\nnand -a of nand\r\n:-) "_s;
+            const QString bare = u"\r\n\r\r\n of nand\r\n:-) "_s;
+            QCOMPARE(screens[code].last.reply, stripped.contains(code) ? bare : whole);
+        }
+        for (const auto &[code, screen] : screens)
+            QCOMPARE(screen.events.size(), 1); // each its own reply and no other's
+    }
+
+    void lateReplyOfAClosedScreen()
+    {
+        ReadyBench bench;
+        Listener again;
+        bench.port.answers = {{"ok\n", ":-) "}, {"ok\n:-) "}};
+        QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
+        bench.session.detach(&bench.screen);
+        bench.session.attach(u"15"_s, &again); // opened anew before the reply has come
+        bench.deliver();
+        QVERIFY(bench.screen.events.isEmpty());
+        QVERIFY(again.events.isEmpty());
+        QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
+        bench.deliver();
+        QCOMPARE(again.events, QStringList{u"taken"_s});
+
+        bench.session.connectOrDisconnect(u"3"_s);
+        bench.accept("SystemConfig Driver is missing!");
+        bench.port.answers = {{answered("syscfg print RMd#", "A1660")}};
+        QVERIFY(bench.session.requestModel(u"15"_s));
+        bench.session.detach(&again);
+        bench.session.attach(u"15"_s, &bench.screen);
+        bench.deliver();
+        bench.session.TimerVersao_Timer();
+        QVERIFY(bench.session.isModelKnown());
+        QVERIFY(bench.screen.events.isEmpty());
+    }
+
+    void lossAtEveryByte()
+    {
+        ReadyBench bench;
+        bench.session.chooseSpeed(u"2"_s); // a whole reply is still in flight after its first poll
+        const QByteArray reply = answered("cmd", "value 1.0 mV");
+        for (qsizetype bytes = 0; bytes <= 2 * reply.size(); ++bytes) {
+            const QByteArray came = reply.left(bytes / 2);
+            bench.port.answers = {{came}};
+            QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
+            if (bytes % 2 && !came.isEmpty())
+                bench.session.Timer1_Timer(); // else the bytes are still in the port
+            bench.port.die();
+            QCOMPARE(bench.screen.events, QStringList{u"lost"_s});
+            QCOMPARE(bench.screen.last.reply, came.isEmpty() ? QString() : shown(came));
+            QVERIFY(bench.screen.last.cut);
+            QCOMPARE(bench.session.Status(), u"0"_s);
+            QCOMPARE(bench.title, u"Tavimo Prelt"_s);
+            bench.session.TimerFecha_Timer();
+            QCOMPARE(bench.log, QStringList({u"lost"_s, u"MSG_PORTA_NAO_RESPONDE"_s, u"portsWanted"_s}));
+            bench.screen.events.clear();
+            bench.accept("A1660");
+            QVERIFY(bench.session.isReady());
+            bench.log.clear();
+        }
+    }
+
+    void lockedStoreIsToldAtLast()
+    {
+        SessionBench bench;
+        OtherProgram other(bench.path);
+        other.run(u"BEGIN EXCLUSIVE"_s);
+        bench.session.chooseModel(u"IP 7"_s); // clears the readings and is remembered: two units of work
+        for (int tick = 1; tick < 50; ++tick)
+            bench.store.TimerStore_Timer();
+        QVERIFY(bench.log.isEmpty());
+        bench.store.TimerStore_Timer();
+        QCOMPARE(bench.log, QStringList{u"STORE_LOCKED"_s});
+        for (int tick = 0; tick < 50; ++tick)
+            bench.store.TimerStore_Timer();
+        QCOMPARE(bench.log, QStringList({u"STORE_LOCKED"_s, u"STORE_LOCKED"_s}));
+    }
+
+    void workKeepsItsOrder()
+    {
+        SessionBench bench;
+        QStringList order;
+        auto gone = std::make_unique<QObject>();
+        const auto add = [&](const QString &name, QObject *context, const std::function<void()> &after = {}) {
+            const auto work = [&order, name](Store &) {
+                order.append(name);
+                return Result<Done>(Done{});
+            };
+            bench.store.run<Done>(Store::Access::Write, work, context, [&order, name, after](const Result<Done> &) {
+                order.append(name + " told"_L1);
+                if (after)
+                    after();
+            });
+        };
+        {
+            OtherProgram other(bench.path);
+            other.run(u"BEGIN EXCLUSIVE"_s);
+            add(u"a"_s, &bench.session, [&] { add(u"d"_s, &bench.session); });
+            add(u"b"_s, gone.get());
+            add(u"c"_s, &bench.session);
+            gone.reset();
+            bench.store.TimerStore_Timer();
+            QVERIFY(order.isEmpty());
+        }
+        bench.store.TimerStore_Timer();
+        QCOMPARE(order.join(u", "), u"a, a told, b, c, c told, d, d told"_s);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestDispatch)
 #include "tst_dispatch.moc"
