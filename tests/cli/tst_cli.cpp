@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "phoneprofile.h"
 
 #include <QFile>
@@ -48,20 +49,157 @@ class TestCli : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void judgesSavedReplies_data();
-    void judgesSavedReplies();
-    void savedAndLiveAgreeToTheLetter_data();
-    void savedAndLiveAgreeToTheLetter();
-    void faultIsNamed();
-    void tableIsForPeople();
-    void troubleIsOneLine_data();
-    void troubleIsOneLine();
-    void lostLineIsNeverGood_data();
-    void lostLineIsNeverGood();
-    void unknownNumberNeedsAModel();
-    void sendsAndDetects();
-    void readsAStoreThatCannotBeWritten();
+    void initTestCase()
+    {
+        QCOMPARE(atHome(u"store init"_s).code, 0);
+        const Outcome again = atHome(u"store init"_s);
+        QCOMPARE(again.code, 4);
+        QVERIFY(again.errors.contains(m_home.path().toUtf8()));
+        QCOMPARE(again.errors.count('\n'), 1);
+    }
+
+    void judgesSavedReplies_data()
+    {
+        columns<QByteArray, int, QString>({"reply", "code", "verdict"});
+
+        const QByteArray healthy = replyOf(u"IP 7"_s);
+        const qsizetype ldo5 = healthy.indexOf("BIST ldo5:");
+        QTest::newRow("healthy") << healthy << 0 << u"pass"_s;
+        QTest::newRow("a low rail") << replyOf(u"IP 7,ldo2=1200"_s) << 1 << u"fail"_s;
+        QTest::newRow("cut in a number") << healthy.left(ldo5 + 13) << 5 << u"incomplete"_s;
+        QTest::newRow("cut before the prompt") << healthy.left(healthy.lastIndexOf('[')) << 5 << u"incomplete"_s;
+        QTest::newRow("empty file") << QByteArray() << 3 << QString();
+    }
+
+    void judgesSavedReplies()
+    {
+        QFETCH(QByteArray, reply);
+        const Outcome judged = atHome(kJudge + "--json"_L1, reply);
+        QTEST(judged.code, "code");
+        QTEST(judged.json().value(u"verdict"_s).toString(), "verdict");
+    }
+
+    void savedAndLiveAgreeToTheLetter_data()
+    {
+        columns<QString, QString>({"model", "faults"});
+        QTest::newRow("a fault") << u"IP 7"_s << u",ldo2=1200"_s;
+        QTest::newRow("CR LF") << u"IP X"_s << u",crlf"_s;
+    }
+
+    void savedAndLiveAgreeToTheLetter()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, faults);
+        const QString path = m_home.filePath(u"reply"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(replyOf(model + faults));
+        file.close();
+        const QString options = u" --kind 1 --json --lang en"_s;
+        const Outcome judged = atHome(u"judge buckldo --model \"%1\" --reply %2"_s.arg(model, path) + options);
+        const Outcome live = atHome(u"run buckldo --port \"sim:%1%2\""_s.arg(model, faults) + options);
+        QVERIFY(!judged.out.isEmpty());
+        QCOMPARE(live.out, judged.out);
+        QCOMPARE(live.code, judged.code);
+    }
+
+    void faultIsNamed()
+    {
+        const QJsonObject judged = atHome(kJudge + "--json --volts 2"_L1, replyOf(u"IP 7,ldo2=1200"_s)).json();
+        QCOMPARE(judged.value(u"command"_s).toString(), u"pmuadc --read all"_s);
+        const QJsonArray findings = judged.value(u"findings"_s).toArray();
+        QCOMPARE(findings.size(), 1);
+        const QJsonObject finding = findings.first().toObject();
+        QCOMPARE(finding.value(u"what"_s).toString(), u"PP1V8_VA"_s);
+        QCOMPARE(finding.value(u"reading"_s).toString(), u"1.20 V"_s);
+        QCOMPARE(finding.value(u"reference"_s).toString(), u"1.800"_s);
+        QCOMPARE(finding.value(u"deviation"_s).toDouble(), -33.3);
+        QCOMPARE(finding.value(u"line"_s).toString(), u"BIST ldo2: 1200.0000 mV"_s);
+    }
+
+    void tableIsForPeople()
+    {
+        const auto table = [this](QLatin1StringView language) {
+            return atHome(kJudge + "--lang "_L1 + language, replyOf(u"IP 7,ldo2=1200"_s)).out;
+        };
+        const QByteArray shown = table("en"_L1);
+        QVERIFY(shown.contains("PP1V8_VA") && shown.contains("-33.3 %") && shown.contains("FAIL (1 fail"));
+        QVERIFY(!shown.contains('\x1b')); // no colour into a pipe
+        QVERIFY(table("pt"_L1).contains("FALHA"));
+        QVERIFY(table("es"_L1).contains("FALLA"));
+    }
+
+    void troubleIsOneLine_data()
+    {
+        columns<QString, int, QByteArray>({"line", "code", "names"});
+
+        const QByteArray folder = m_home.path().toUtf8();
+        const QString home = " --home "_L1 + m_home.path();
+        const auto add = [](const char *fault, const QString &line, int code, const QByteArray &names) {
+            QTest::newRow(fault) << line << code << names;
+        };
+        add("no command", {}, 2, "--help");
+        add("screen misspelt", u"run bukldo"_s, 2, "bukldo");
+        add("no port given", u"run buckldo"_s, 2, "--port");
+        add("no such kind", u"run buckldo --port 1 --kind 3"_s, 2, "--kind");
+        add("no such model", u"judge buckldo --model \"IP 9\" --reply -"_s, 2, "--model");
+        add("nothing to send", u"send \" \" --port 1"_s, 2, "command");
+        add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
+        add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
+        add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");
+        add("empty reply", kJudge + "--lang en"_L1 + home, 3, "did not answer");
+        add("no such port", u"run buckldo --port /dev/no-such-port"_s + home, 3, "/dev/no-such-port");
+        add("number above 16", u"run buckldo --port 17"_s + home, 3, "16");
+        add("no such phone", u"run buckldo --port \"sim:IP 9\""_s + home, 3, "IP 9");
+        add("a fault that no phone has", u"sim \"IP 7,frob\""_s, 2, "frob");
+    }
+
+    void troubleIsOneLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(QByteArray, names);
+        const Outcome outcome = prelt(line);
+        QTEST(outcome.code, "code");
+        QVERIFY2(outcome.errors.contains(names), outcome.errors.constData());
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QCOMPARE(outcome.out, QByteArray());
+    }
+
+    void lostLineIsNeverGood()
+    {
+        for (const QString &fault : {u"drop@30"_s, u"drop@900"_s, u"silent"_s}) { // in the handshake, in the reading
+            const Outcome outcome = atHome(u"run buckldo --json --port \"sim:IP 7,%1\""_s.arg(fault));
+            QCOMPARE(outcome.code, 3);
+            QVERIFY(!outcome.errors.isEmpty());
+            QVERIFY(outcome.out.isEmpty() || outcome.json().value(u"verdict"_s) == "incomplete"_L1);
+        }
+    }
+
+    void unknownNumberNeedsAModel()
+    {
+        const QString run = u"run buckldo --json --port \"sim:IP 7,model=A9999\""_s;
+        const Outcome refused = atHome(run);
+        QCOMPARE(refused.code, 5);
+        QVERIFY(refused.errors.contains("--model"));
+        QCOMPARE(refused.out, QByteArray());
+
+        const Outcome told = atHome(run + " --model \"IP 7\""_L1);
+        QCOMPARE(told.code, 0);
+        QCOMPARE(told.json().value(u"model"_s).toString(), u"IP 7"_s);
+        QCOMPARE(told.json().value(u"messages"_s).toArray(),
+                 QJsonArray({u"MSG_ERRO_NAND"_s, u"MSG_SELECIONE_MODELO"_s}));
+    }
+
+    void sendsAndDetects()
+    {
+        const Outcome sent = atHome(u"send \"foo bar\" --port \"sim:IP 7\""_s);
+        QCOMPARE(sent.code, 0);
+        QVERIFY(sent.out.startsWith("foo bar\nCommand \"foo\" not found!\n["));
+        QCOMPARE(atHome(u"detect --port \"sim:IP 8 Plus\""_s).out, QByteArray("IP 8 Plus\n"));
+        const Outcome unknown = atHome(u"detect --port \"sim:IP 7,model=hello\""_s);
+        QCOMPARE(unknown.code, 5);
+        QVERIFY(!unknown.errors.isEmpty());
+    }
 
 private:
     Outcome atHome(const QString &line, const QByteArray &input = {}) const
@@ -71,188 +209,6 @@ private:
 
     QTemporaryDir m_home;
 };
-
-void TestCli::initTestCase()
-{
-    QCOMPARE(atHome(u"store init"_s).code, 0);
-    const Outcome again = atHome(u"store init"_s);
-    QCOMPARE(again.code, 4);
-    QVERIFY(again.errors.contains(m_home.path().toUtf8()));
-    QCOMPARE(again.errors.count('\n'), 1);
-}
-
-void TestCli::judgesSavedReplies_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("verdict");
-
-    const QByteArray healthy = replyOf(u"IP 7"_s);
-    const qsizetype ldo5 = healthy.indexOf("BIST ldo5:");
-    QTest::newRow("healthy") << healthy << 0 << u"pass"_s;
-    QTest::newRow("CR LF everywhere") << replyOf(u"IP 7,crlf"_s) << 0 << u"pass"_s;
-    QTest::newRow("a low rail") << replyOf(u"IP 7,ldo2=1200"_s) << 1 << u"fail"_s;
-    QTest::newRow("a rail that timed out") << replyOf(u"IP 7,ldo2=timeout"_s) << 5 << u"incomplete"_s;
-    QTest::newRow("cut in a number") << healthy.left(ldo5 + 13) << 5 << u"incomplete"_s;
-    QTest::newRow("cut before the prompt") << healthy.left(healthy.lastIndexOf('[')) << 5 << u"incomplete"_s;
-    QTest::newRow("another command's reply") << QByteArray("foo\r\n[0011AABB:CCDD2233] :-) ") << 5 << u"incomplete"_s;
-    QTest::newRow("empty file") << QByteArray() << 3 << QString();
-}
-
-void TestCli::judgesSavedReplies()
-{
-    QFETCH(QByteArray, reply);
-    const Outcome judged = atHome(kJudge + "--json"_L1, reply);
-    QTEST(judged.code, "code");
-    QTEST(judged.json().value(u"verdict"_s).toString(), "verdict");
-}
-
-void TestCli::savedAndLiveAgreeToTheLetter_data()
-{
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<QString>("faults");
-    QTest::newRow("a fault") << u"IP 7"_s << u",ldo2=1200"_s;
-    QTest::newRow("CR LF") << u"IP X"_s << u",crlf"_s;
-}
-
-void TestCli::savedAndLiveAgreeToTheLetter()
-{
-    QFETCH(QString, model);
-    QFETCH(QString, faults);
-    const QString path = m_home.filePath(u"reply"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(replyOf(model + faults));
-    file.close();
-    const QString options = u" --kind 1 --json --lang en"_s;
-    const Outcome judged = atHome(u"judge buckldo --model \"%1\" --reply %2"_s.arg(model, path) + options);
-    const Outcome live = atHome(u"run buckldo --port \"sim:%1%2\""_s.arg(model, faults) + options);
-    QVERIFY(!judged.out.isEmpty());
-    QCOMPARE(live.out, judged.out);
-    QCOMPARE(live.code, judged.code);
-}
-
-void TestCli::faultIsNamed()
-{
-    const QJsonObject judged = atHome(kJudge + "--json --volts 2"_L1, replyOf(u"IP 7,ldo2=1200"_s)).json();
-    QCOMPARE(judged.value(u"command"_s).toString(), u"pmuadc --read all"_s);
-    const QJsonArray findings = judged.value(u"findings"_s).toArray();
-    QCOMPARE(findings.size(), 1);
-    const QJsonObject finding = findings.first().toObject();
-    QCOMPARE(finding.value(u"what"_s).toString(), u"PP1V8_VA"_s);
-    QCOMPARE(finding.value(u"reading"_s).toString(), u"1.20 V"_s);
-    QCOMPARE(finding.value(u"reference"_s).toString(), u"1.800"_s);
-    QCOMPARE(finding.value(u"deviation"_s).toDouble(), -33.3);
-    QCOMPARE(finding.value(u"line"_s).toString(), u"BIST ldo2: 1200.0000 mV"_s);
-}
-
-void TestCli::tableIsForPeople()
-{
-    const auto table = [this](QLatin1StringView language) {
-        return atHome(kJudge + "--lang "_L1 + language, replyOf(u"IP 7,ldo2=1200"_s)).out;
-    };
-    const QByteArray shown = table("en"_L1);
-    QVERIFY(shown.contains("PP1V8_VA") && shown.contains("-33.3 %") && shown.contains("FAIL (1 fail"));
-    QVERIFY(!shown.contains('\x1b')); // no colour into a pipe
-    QVERIFY(table("pt"_L1).contains("FALHA"));
-    QVERIFY(table("es"_L1).contains("FALLA"));
-}
-
-void TestCli::troubleIsOneLine_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QByteArray>("names");
-
-    const QByteArray folder = m_home.path().toUtf8();
-    const QString home = " --home "_L1 + m_home.path();
-    const auto add = [](const char *fault, const QString &line, int code, const QByteArray &names) {
-        QTest::newRow(fault) << line << code << names;
-    };
-    add("no command", {}, 2, "--help");
-    add("command misspelt", u"jugde"_s, 2, "jugde");
-    add("screen misspelt", u"run bukldo"_s, 2, "bukldo");
-    add("no port given", u"run buckldo"_s, 2, "--port");
-    add("no such kind", u"run buckldo --port 1 --kind 3"_s, 2, "--kind");
-    add("no such option", u"run buckldo --port 1 --frob"_s, 2, "--frob");
-    add("no such model", u"judge buckldo --model \"IP 9\" --reply -"_s, 2, "--model");
-    add("nothing to send", u"send \" \" --port 1"_s, 2, "command");
-    add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
-    add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
-    add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");
-    add("empty reply", kJudge + "--lang en"_L1 + home, 3, "did not answer");
-    add("no such port", u"run buckldo --port /dev/no-such-port"_s + home, 3, "/dev/no-such-port");
-    add("a folder as port", u"run buckldo --port "_s + m_home.path() + home, 3, folder);
-    add("a file as port", u"run buckldo --port /dev/null"_s + home, 3, "/dev/null");
-    add("number above 16", u"run buckldo --port 17"_s + home, 3, "16");
-    add("no such phone", u"run buckldo --port \"sim:IP 9\""_s + home, 3, "IP 9");
-    add("a fault that no phone has", u"sim \"IP 7,frob\""_s, 2, "frob");
-}
-
-void TestCli::troubleIsOneLine()
-{
-    QFETCH(QString, line);
-    QFETCH(QByteArray, names);
-    const Outcome outcome = prelt(line);
-    QTEST(outcome.code, "code");
-    QVERIFY2(outcome.errors.contains(names), outcome.errors.constData());
-    QCOMPARE(outcome.errors.count('\n'), 1);
-    QCOMPARE(outcome.out, QByteArray());
-}
-
-void TestCli::lostLineIsNeverGood_data()
-{
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("pulled in the handshake") << u"drop@30"_s;
-    QTest::newRow("pulled in the reading") << u"drop@900"_s;
-    QTest::newRow("never answers") << u"silent"_s;
-}
-
-void TestCli::lostLineIsNeverGood()
-{
-    QFETCH(QString, fault);
-    const Outcome outcome = atHome(u"run buckldo --json --port \"sim:IP 7,%1\""_s.arg(fault));
-    QCOMPARE(outcome.code, 3);
-    QVERIFY(!outcome.errors.isEmpty());
-    QVERIFY(outcome.out.isEmpty() || outcome.json().value(u"verdict"_s) == "incomplete"_L1);
-}
-
-void TestCli::unknownNumberNeedsAModel()
-{
-    const QString run = u"run buckldo --json --port \"sim:IP 7,model=A9999\""_s;
-    const Outcome refused = atHome(run);
-    QCOMPARE(refused.code, 5);
-    QVERIFY(refused.errors.contains("--model"));
-    QCOMPARE(refused.out, QByteArray());
-
-    const Outcome told = atHome(run + " --model \"IP 7\""_L1);
-    QCOMPARE(told.code, 0);
-    QCOMPARE(told.json().value(u"model"_s).toString(), u"IP 7"_s);
-    QCOMPARE(told.json().value(u"messages"_s).toArray(), QJsonArray({u"MSG_ERRO_NAND"_s, u"MSG_SELECIONE_MODELO"_s}));
-}
-
-void TestCli::sendsAndDetects()
-{
-    const Outcome sent = atHome(u"send \"foo bar\" --port \"sim:IP 7\""_s);
-    QCOMPARE(sent.code, 0);
-    QVERIFY(sent.out.startsWith("foo bar\nCommand \"foo\" not found!\n["));
-    QCOMPARE(atHome(u"detect --port \"sim:IP 8 Plus\""_s).out, QByteArray("IP 8 Plus\n"));
-    const Outcome unknown = atHome(u"detect --port \"sim:IP 7,model=hello\""_s);
-    QCOMPARE(unknown.code, 5);
-    QVERIFY(!unknown.errors.isEmpty());
-}
-
-void TestCli::readsAStoreThatCannotBeWritten()
-{
-    QFile store(m_home.filePath(u"Config.pmx"_s));
-    const QFile::Permissions before = store.permissions();
-    QVERIFY(store.setPermissions(QFile::ReadOwner));
-    QVERIFY(QFile::setPermissions(m_home.path(), QFile::ReadOwner | QFile::ExeOwner));
-    const Outcome judged = atHome(kJudge, replyOf(u"IP 7"_s));
-    QFile::setPermissions(m_home.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    store.setPermissions(before);
-    QCOMPARE(judged.code, 0);
-}
 
 QTEST_GUILESS_MAIN(TestCli)
 #include "tst_cli.moc"
