@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "connectionbar.h"
 #include "findingslist.h"
 #include "inicial.h"
@@ -106,121 +107,111 @@ class TestWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void railAndKeysOpenEveryScreen();
-    void fieldsHaveControls();
-    void clicksReadABoard();
-    void languageReachesOpenForms_data();
-    void languageReachesOpenForms();
-    void missingPortIsTold();
-    void typingSurvivesNews();
-    void tabsCloseByKey();
+    void railAndKeysOpenEveryScreen()
+    {
+        Bench bench;
+        for (const Module &module : modules()) {
+            const QString name = module.name;
+            bench.click(module.botao > 0 ? u"Botoes(%1)"_s.arg(module.botao) : u"bt"_s + name);
+            QCOMPARE(bench.front(), name);
+        }
+        for (const Module &module : modules()) {
+            const QKeyCombination keys = QKeySequence(QString(module.shortcut))[0];
+            QTest::keyClick(&bench.window, keys.key(), keys.keyboardModifiers());
+            QCOMPARE(bench.front(), QString(module.name));
+        }
+        QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), static_cast<int>(modules().size()));
+    }
+
+    void fieldsHaveControls()
+    {
+        Bench bench;
+        for (const Module &module : modules())
+            bench.window.openScreen(module.name);
+        for (const ScreenForm *form : bench.window.findChildren<ScreenForm *>())
+            for (const QString &field : form->screen().panel().fields.keys())
+                QVERIFY2(form->findChild<QWidget *>(field), qPrintable(form->objectName() + u' ' + field));
+    }
+
+    void clicksReadABoard()
+    {
+        Bench bench;
+        bench.connectTo(u"sim:IP 7,buck3=1200"_s);
+        QTRY_VERIFY(bench.session.isReady() && bench.session.isModelKnown());
+        QCOMPARE(bench.control<QLabel>(u"lbModelo"_s)->text(), u"IP 7"_s);
+        bench.click(u"Botoes(4)"_s);
+        bench.click(u"Botao4"_s);
+        const auto *form = bench.control<ScreenForm>(u"BuckLdo"_s);
+        QTRY_VERIFY(form->screen().hasReading());
+        QCOMPARE(form->screen().panel().verdict, Verdict::Fail);
+        QCOMPARE(bench.control<PanelGrid>(u"DBGrid1"_s)->model()->rowCount(),
+                 static_cast<int>(form->screen().panel().rows.size()));
+        const auto *findings = bench.control<FindingsList>(u"ListaAchados"_s);
+        QCOMPARE(findings->model()->rowCount(), 1);
+        QVERIFY(findings->model()->index(0, 0).data().toString().contains("1.200 V"_L1));
+        QVERIFY(!bench.control<QLabel>(u"lbDica"_s)->isVisible());
+        bench.click(u"Botoes(1)"_s);
+        QVERIFY(bench.control<QLabel>(u"lbDica"_s)->isVisible()); // what is seen is the last reading
+        bench.connectTo(u"sim:IP 8"_s);
+        QTRY_COMPARE(findings->model()->rowCount(), 0); // they were another phone's
+    }
+
+    void languageReachesOpenForms_data()
+    {
+        columns<int, QString>({"language", "read"});
+        QTest::newRow("Portuguese") << 1 << u"Executar Leitura  F5"_s;
+        QTest::newRow("English") << 2 << u"Run Read  F5"_s;
+        QTest::newRow("Spanish") << 3 << u"Ejecutar Lectura  F5"_s;
+    }
+
+    void languageReachesOpenForms()
+    {
+        QFETCH(const int, language);
+        Bench bench;
+        for (const Module &module : modules())
+            bench.window.openScreen(module.name);
+        bench.window.Botoes_Click(10);
+        bench.click(u"btIdioma(%1)"_s.arg(language));
+        QTEST(bench.control<QPushButton>(u"Botao4"_s)->text(), "read");
+        QCOMPARE(silentControls(bench.window), QStringList());
+    }
+
+    void missingPortIsTold()
+    {
+        Bench bench;
+        bench.connectTo(QString());
+        QVERIFY(bench.box());
+        QCOMPARE(bench.session.Status(), u"0"_s);
+        bench.box()->reject();
+        QTRY_VERIFY(!bench.box()); // the event loop went on: nothing waited for the answer
+        QVERIFY(bench.control<QPushButton>(u"Botoes(1)"_s)->isEnabled());
+    }
+
+    void typingSurvivesNews()
+    {
+        Bench bench;
+        auto *field = bench.control<QComboBox>(u"cbPortas"_s)->lineEdit();
+        field->clear();
+        QTest::keyClicks(field, u"/dev/ttyUSB"_s);
+        emit bench.session.portsWanted();
+        emit bench.session.languageChanged();
+        emit bench.session.statusChanged();
+        QTest::keyClicks(field, u"3"_s);
+        QCOMPARE(field->text(), u"/dev/ttyUSB3"_s);
+    }
+
+    void tabsCloseByKey()
+    {
+        Bench bench;
+        bench.window.openScreen(u"BuckLdo"_s);
+        bench.window.openScreen(u"PMU"_s);
+        QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
+        QCOMPARE(bench.front(), u"BuckLdo"_s);
+        QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
+        QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier); // and with nothing left to close
+        QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), 0);
+    }
 };
-
-void TestWindow::railAndKeysOpenEveryScreen()
-{
-    Bench bench;
-    for (const Module &module : modules()) {
-        const QString name = module.name;
-        bench.click(module.botao > 0 ? u"Botoes(%1)"_s.arg(module.botao) : u"bt"_s + name);
-        QCOMPARE(bench.front(), name);
-    }
-    for (const Module &module : modules()) {
-        const QKeyCombination keys = QKeySequence(QString(module.shortcut))[0];
-        QTest::keyClick(&bench.window, keys.key(), keys.keyboardModifiers());
-        QCOMPARE(bench.front(), QString(module.name));
-    }
-    QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), static_cast<int>(modules().size()));
-}
-
-void TestWindow::fieldsHaveControls()
-{
-    Bench bench;
-    for (const Module &module : modules())
-        bench.window.openScreen(module.name);
-    for (const ScreenForm *form : bench.window.findChildren<ScreenForm *>())
-        for (const QString &field : form->screen().panel().fields.keys())
-            QVERIFY2(form->findChild<QWidget *>(field), qPrintable(form->objectName() + u' ' + field));
-}
-
-void TestWindow::clicksReadABoard()
-{
-    Bench bench;
-    bench.connectTo(u"sim:IP 7,buck3=1200"_s);
-    QTRY_VERIFY(bench.session.isReady() && bench.session.isModelKnown());
-    QCOMPARE(bench.control<QLabel>(u"lbModelo"_s)->text(), u"IP 7"_s);
-    bench.click(u"Botoes(4)"_s);
-    bench.click(u"Botao4"_s);
-    const auto *form = bench.control<ScreenForm>(u"BuckLdo"_s);
-    QTRY_VERIFY(form->screen().hasReading());
-    QCOMPARE(form->screen().panel().verdict, Verdict::Fail);
-    QCOMPARE(bench.control<PanelGrid>(u"DBGrid1"_s)->model()->rowCount(),
-             static_cast<int>(form->screen().panel().rows.size()));
-    const auto *findings = bench.control<FindingsList>(u"ListaAchados"_s);
-    QCOMPARE(findings->model()->rowCount(), 1);
-    QVERIFY(findings->model()->index(0, 0).data().toString().contains("1.200 V"_L1));
-    QVERIFY(!bench.control<QLabel>(u"lbDica"_s)->isVisible());
-    bench.click(u"Botoes(1)"_s);
-    QVERIFY(bench.control<QLabel>(u"lbDica"_s)->isVisible()); // what is seen is the last reading
-    bench.connectTo(u"sim:IP 8"_s);
-    QTRY_COMPARE(findings->model()->rowCount(), 0); // they were another phone's
-}
-
-void TestWindow::languageReachesOpenForms_data()
-{
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("read");
-    QTest::newRow("Portuguese") << 1 << u"Executar Leitura  F5"_s;
-    QTest::newRow("English") << 2 << u"Run Read  F5"_s;
-    QTest::newRow("Spanish") << 3 << u"Ejecutar Lectura  F5"_s;
-}
-
-void TestWindow::languageReachesOpenForms()
-{
-    QFETCH(const int, language);
-    Bench bench;
-    for (const Module &module : modules())
-        bench.window.openScreen(module.name);
-    bench.window.Botoes_Click(10);
-    bench.click(u"btIdioma(%1)"_s.arg(language));
-    QTEST(bench.control<QPushButton>(u"Botao4"_s)->text(), "read");
-    QCOMPARE(silentControls(bench.window), QStringList());
-}
-
-void TestWindow::missingPortIsTold()
-{
-    Bench bench;
-    bench.connectTo(QString());
-    QVERIFY(bench.box());
-    QCOMPARE(bench.session.Status(), u"0"_s);
-    bench.box()->reject();
-    QTRY_VERIFY(!bench.box()); // the event loop went on: nothing waited for the answer
-    QVERIFY(bench.control<QPushButton>(u"Botoes(1)"_s)->isEnabled());
-}
-
-void TestWindow::typingSurvivesNews()
-{
-    Bench bench;
-    auto *field = bench.control<QComboBox>(u"cbPortas"_s)->lineEdit();
-    field->clear();
-    QTest::keyClicks(field, u"/dev/ttyUSB"_s);
-    emit bench.session.portsWanted();
-    emit bench.session.languageChanged();
-    emit bench.session.statusChanged();
-    QTest::keyClicks(field, u"3"_s);
-    QCOMPARE(field->text(), u"/dev/ttyUSB3"_s);
-}
-
-void TestWindow::tabsCloseByKey()
-{
-    Bench bench;
-    bench.window.openScreen(u"BuckLdo"_s);
-    bench.window.openScreen(u"PMU"_s);
-    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
-    QCOMPARE(bench.front(), u"BuckLdo"_s);
-    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier);
-    QTest::keyClick(&bench.window, Qt::Key_W, Qt::ControlModifier); // and with nothing left to close
-    QCOMPARE(bench.control<QTabWidget>(u"Abas"_s)->count(), 0);
-}
 
 QTEST_MAIN(TestWindow)
 #include "tst_window.moc"
