@@ -23,7 +23,7 @@ class tst_storewords : public QObject
 private slots:
     void codes_data()
     {
-        // "%" is the home; the same on a store with a trigger
+        // "%" is the home; "hostile" is the code on a store with a trigger.
         columns<QString, QString, QString, int, int>({"word", "first", "second", "sound", "hostile"});
         const auto row = [](const char *name, const QString &word, const QString &first, const QString &second,
                             int sound,

@@ -164,7 +164,7 @@ private slots:
 
     void modelAfterConnecting_data()
     {
-        // of each query; the last one stays
+        // The bodies answer one query each, the last one all that follow.
         columns<QList<QByteArray>, int, int, QStringList, QString>({"bodies", "queries", "ticks", "log", "label"});
         using Bodies = QList<QByteArray>;
         const QStringList settled = {u"settled"_s};
@@ -210,7 +210,7 @@ private slots:
 
     void screenWaitsForTheModel_data()
     {
-        // by hand, when
+        // "picked" says when somebody chooses by hand.
         columns<QByteArray, QString, int, QString, QStringList>({"body", "picked", "ticks", "event", "log"});
         const QByteArray other = "MKQK2";
         const QStringList settled = {u"settled"_s};

@@ -85,6 +85,7 @@ public:
     QPushButton button;
     QComboBox combo;
     QProgressBar bar;
+    Painter painter{*this};
 };
 
 class TestWidgets : public QObject
@@ -97,12 +98,11 @@ private slots:
     void paintsEverySort()
     {
         SampleForm form;
-        Painter painter(form);
         const Panel panel = panelOf({{u"Malha(1)"_s, {.text = u"2.998 V"_s, .back = Colour::Fault, .tip = u"tip"_s}},
                                      {u"btGravar"_s, {.visible = false, .enabled = false}},
                                      {u"Combo"_s, {.items = QStringList{u"a"_s, u"b"_s}}},
                                      {u"Barra"_s, {.value = 40}}});
-        QCOMPARE(painter.paint(panel), QStringList());
+        QCOMPARE(form.painter.paint(panel), QStringList());
         QCOMPARE(form.label.text(), u"2.998 V"_s);
         QCOMPARE(form.label.toolTip(), u"tip"_s);
         QCOMPARE(form.label.palette().color(QPalette::Window), currentTheme().faultField);
@@ -116,27 +116,25 @@ private slots:
     void leavesTypingAlone()
     {
         SampleForm form;
-        Painter painter(form);
         const Panel panel =
             panelOf({{u"txtComandos"_s, {.text = u"help"_s}}, {u"Combo"_s, {.items = QStringList{u"a"_s, u"b"_s}}}});
-        painter.paint(panel);
+        form.painter.paint(panel);
         form.edit.setText(u"typed since"_s);
         form.combo.setCurrentIndex(1);
-        painter.paint(panel);
+        form.painter.paint(panel);
         QCOMPARE(form.edit.text(), u"typed since"_s);
         QCOMPARE(form.combo.currentIndex(), 1);
-        painter.paint(panelOf({{u"txtComandos"_s, {.enabled = false}}}));
+        form.painter.paint(panelOf({{u"txtComandos"_s, {.enabled = false}}}));
         QCOMPARE(form.edit.text(), u"typed since"_s);
     }
 
     void keepsColourNextToText()
     {
         SampleForm form;
-        Painter painter(form);
-        painter.paint(panelOf({{u"Malha(1)"_s, {.text = u"1"_s, .back = Colour::Pass}}}));
-        painter.paint(panelOf({{u"Malha(1)"_s, {.text = u"2"_s}}}));
+        form.painter.paint(panelOf({{u"Malha(1)"_s, {.text = u"1"_s, .back = Colour::Pass}}}));
+        form.painter.paint(panelOf({{u"Malha(1)"_s, {.text = u"2"_s}}}));
         QCOMPARE(form.label.palette().color(QPalette::Window), currentTheme().passField);
-        painter.paint(panelOf({{u"Malha(1)"_s, {.back = Colour::Neutral}}}));
+        form.painter.paint(panelOf({{u"Malha(1)"_s, {.back = Colour::Neutral}}}));
         QCOMPARE(form.label.palette().color(QPalette::Window), currentTheme().surface);
         QCOMPARE(form.label.palette().color(QPalette::WindowText), currentTheme().text);
     }
@@ -144,8 +142,7 @@ private slots:
     void coloursShowOnEdits()
     {
         SampleForm form;
-        Painter painter(form);
-        painter.paint(panelOf({{u"txtComandos"_s, {.back = Colour::Fault}}}));
+        form.painter.paint(panelOf({{u"txtComandos"_s, {.back = Colour::Fault}}}));
         const QImage shown = form.grab().toImage();
         QCOMPARE(shown.pixelColor(form.edit.geometry().center()), currentTheme().faultField);
     }
@@ -153,19 +150,8 @@ private slots:
     void namesWithoutControlAreTold()
     {
         SampleForm form;
-        Painter painter(form);
-        const QStringList unknown = painter.paint(panelOf({{u"Malha(9)"_s, {.text = u"1"_s}}}));
+        const QStringList unknown = form.painter.paint(panelOf({{u"Malha(9)"_s, {.text = u"1"_s}}}));
         QCOMPARE(unknown, QStringList{u"Malha(9)"_s});
-    }
-
-    void sameRowsChangeNothing()
-    {
-        PanelModel model(kColumns);
-        model.show(threeRails());
-        const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-        const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-        model.show(threeRails());
-        QCOMPARE(changed.size() + reset.size(), 0);
     }
 
     void onlyTheChangedRowIsTold()
@@ -175,6 +161,8 @@ private slots:
         const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
         const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
         QList<Row> rows = threeRails();
+        model.show(rows);
+        QCOMPARE(changed.size() + reset.size(), 0);
         rows[1] = rail(u"PP3V0"_s, u"3.01 V"_s, 0.3, Verdict::Pass);
         model.show(rows);
         QCOMPARE(reset.size(), 0);
@@ -237,10 +225,8 @@ private slots:
         QTest::newRow("at sign") << u"@SUM(A1)"_s << u"'@SUM(A1)"_s;
         QTest::newRow("tab hides a formula") << u"\t=1"_s << u"'\t=1"_s;
         QTest::newRow("number with a line behind it") << u"-1\n=1"_s << u"\"'-1\n=1\""_s;
-        QTest::newRow("negative number stays") << u"-0.2"_s << u"-0.2"_s;
         QTest::newRow("negative per cent stays") << u"-0.2 %"_s << u"-0.2 %"_s;
         QTest::newRow("comma") << u"96,66 mA"_s << u"\"96,66 mA\""_s;
-        QTest::newRow("not measured") << u"*"_s << u"*"_s;
         QTest::newRow("empty") << QString() << QString();
     }
 
