@@ -98,6 +98,7 @@ private slots:
         row("prompt at once, model query", one, one, whole, 2, shownWhole, false, u"syscfg print RMd#"_s);
         row("prompt at once, battery", battery, one, whole, 7, shownWhole, false);
         row("nothing", one, one, {}, 1, {}, true);
+        row("no end", one, one, Chunks(400, "x"), 201, "\r\n"_L1 + QString(201, u'x'), true);
     }
 
     void gathering()
