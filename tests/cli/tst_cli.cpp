@@ -201,6 +201,18 @@ private slots:
         QVERIFY(!unknown.errors.isEmpty());
     }
 
+    void readsAStoreThatCannotBeWritten()
+    {
+        QFile store(m_home.filePath(u"Config.pmx"_s));
+        const QFile::Permissions before = store.permissions();
+        QVERIFY(store.setPermissions(QFile::ReadOwner));
+        QVERIFY(QFile::setPermissions(m_home.path(), QFile::ReadOwner | QFile::ExeOwner));
+        const Outcome judged = atHome(kJudge, replyOf(u"IP 7"_s));
+        QFile::setPermissions(m_home.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        store.setPermissions(before);
+        QCOMPARE(judged.code, 0);
+    }
+
 private:
     Outcome atHome(const QString &line, const QByteArray &input = {}) const
     {
