@@ -150,6 +150,14 @@ private slots:
         QVERIFY(!result.trouble().what.arguments.value(1).contains(u"ldo19"_s));
     }
 
+    void splitPromptKeepsTwoPollsApart()
+    {
+        const QList<ReplyPiece> pieces = replyPlan(profile(u"IP 7,prompt=split"_s), "syscfg print RMd#", 120ms).pieces;
+        QCOMPARE(pieces.size(), 4);
+        QVERIFY(pieces.at(2).bytes.endsWith(" :-"));
+        QVERIFY(pieces.at(3).earliest - pieces.at(2).earliest > 200ms);
+    }
+
     void cableIsPulledAtTheByte()
     {
         const QByteArray whole = answer(profile(u"IP 7"_s), "syscfg print RMd#");
