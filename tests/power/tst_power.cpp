@@ -271,6 +271,7 @@ private slots:
             QCOMPARE(bench.screen->panel().verdict, bytes > 0 ? Verdict::Incomplete : Verdict::None);
         }
         QCOMPARE(bench.shown(u"Ldo2"_s).verdict, Verdict::Pass); // what came stays
+        QCOMPARE(bench.screen->panel().fields.value(u"Botao4"_s).enabled, std::optional(true));
     }
 
     void liveThroughTheSimulatedPhone()
