@@ -13,6 +13,9 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+inline constexpr bool kCanLimitFiles = true;
+#else
+inline constexpr bool kCanLimitFiles = false;
 #endif
 
 /// A connection beside the store's own, as another program has it.
