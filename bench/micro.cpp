@@ -1,0 +1,99 @@
+// Small things that happen often, in this process and without a display.
+
+#include "buckldoreading.h"
+#include "contest.h"
+#include "figurereporter.h"
+#include "gridtime.h"
+#include "phoneprofile.h"
+#include "railtable.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int kRepetitions = 25;
+constexpr qsizetype kReply = 6000;
+
+/// The self-test as the phone sends it, made 6 kB long by lines that nobody asks for, as other models have them.
+QByteArray longReply()
+{
+    QByteArray reply = answer(*profileFor(QString(kFullModel)), "pmuadc --read all");
+    const qsizetype body = reply.indexOf('\n') + 1;
+    while (reply.size() < kReply)
+        reply.insert(body, "BIST spare: 1000.0000 mV\n");
+    return reply;
+}
+
+QList<RailRow> storedRows(const QString &path)
+{
+    const Result<Store> store = Store::open(path, Store::Access::Read, 1s);
+    if (!store)
+        giveUp(u"the store does not open: "_s + path);
+    const Result<QList<RailRow>> rows = railRows(*store, {QString(kFullModel), kFullKind});
+    if (!rows || rows->size() != kFullRows)
+        giveUp(u"the store has not the rows that were put in"_s);
+    return *rows;
+}
+
+void judge(benchmark::State &state, const QString &path)
+{
+    const QList<RailRow> rows = storedRows(path);
+    const RailInput input{.reply = QString::fromLatin1(longReply()), .model = QString(kFullModel)};
+    for (auto _ : state)
+        benchmark::DoNotOptimize(readRails(buckLdoTraits(), input, rows));
+}
+
+void readStore(benchmark::State &state, const QString &path)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(storedRows(path));
+}
+
+void gatherMegabytes(benchmark::State &state)
+{
+    const QByteArray chunk = QByteArray("BIST buck0: 632.5091 mV\n").repeated(170);
+    for (auto _ : state) {
+        QByteArray console;
+        Gathering gathering = firstPoll(chunk, EndOfReply::Prompt);
+        for (; console.size() < 20'000'000; console += gathering.chunk)
+            gathering = followUpPoll(gathering, chunk, EndOfReply::Prompt, 0);
+        benchmark::DoNotOptimize(console);
+    }
+}
+
+void paintGrid(benchmark::State &state, GridTime &grid)
+{
+    for (auto _ : state)
+        state.SetIterationTime(grid.promptToPaint());
+}
+
+benchmark::internal::Benchmark *medianOf(benchmark::internal::Benchmark *one)
+{
+    return one->Unit(benchmark::kMillisecond)->Repetitions(kRepetitions)->ReportAggregatesOnly();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    const QApplication application(argc, argv);
+    const QString store = QApplication::arguments().value(1);
+    fillUp(store);
+    GridTime grid(store, longReply());
+    if (grid.rows() != kFullRows)
+        giveUp(u"the grid shows %1 rows"_s.arg(grid.rows()));
+
+    medianOf(benchmark::RegisterBenchmark("judge a 6 kB reply against 120 rows", judge, store))->MinTime(0.02);
+    medianOf(benchmark::RegisterBenchmark("prompt seen to grid painted, 120 rows", paintGrid, std::ref(grid)))
+        ->UseManualTime()
+        ->Iterations(4);
+    medianOf(benchmark::RegisterBenchmark("open the store and read 120 rows", readStore, store))->MinTime(0.02);
+    medianOf(benchmark::RegisterBenchmark("gather 20 MB in chunks of 4 kB", gatherMegabytes))->MinTime(0.02);
+    FigureReporter figures;
+    benchmark::RunSpecifiedBenchmarks(&figures);
+}
