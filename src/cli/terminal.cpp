@@ -92,20 +92,21 @@ QString aligned(const QList<QStringList> &rows, const QList<Qt::Alignment> &alig
 
 namespace {
 
-/// How a verdict looks in a terminal: a mark, a caption key and an ANSI colour.
+/// How a verdict looks in a terminal: a mark, the caption keys of its word and of its count, and an ANSI colour.
 struct VerdictLook
 {
     QStringView mark;
     QStringView key;
+    QStringView countKey;
     QLatin1StringView colour;
 };
 
 const VerdictLook &look(Verdict verdict)
 {
-    static constexpr std::array<VerdictLook, 4> kLooks = {{{u" ", u"Sem julgamento", ""_L1},
-                                                           {u"✓", u"Aprovado", "32"_L1},
-                                                           {u"?", u"Incompleto", "33"_L1},
-                                                           {u"✗", u"Falha", "31"_L1}}};
+    static constexpr std::array<VerdictLook, 4> kLooks = {{{u" ", u"Sem julgamento", u"", ""_L1},
+                                                           {u"✓", u"Aprovado", u"%1 aprovados", "32"_L1},
+                                                           {u"?", u"Incompleto", u"%1 sem medição", "33"_L1},
+                                                           {u"✗", u"Falha", u"%1 com falha", "31"_L1}}};
     return kLooks.at(static_cast<std::size_t>(verdict));
 }
 
@@ -177,7 +178,7 @@ QString summary(const Panel &panel, Language language)
     QStringList parts;
     for (const Verdict verdict : {Verdict::Fail, Verdict::Incomplete, Verdict::Pass})
         if (const qsizetype count = countOf(panel, verdict))
-            parts.append(QString::number(count) + u' ' + caption(look(verdict).key, language).toLower());
+            parts.append(caption(look(verdict).countKey, language).arg(count));
     return parts.join(", "_L1);
 }
 
