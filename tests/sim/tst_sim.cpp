@@ -69,7 +69,7 @@ private slots:
 
     void watchedCurrentsStayLow()
     {
-        const QStringList names = modelNames();
+        const QStringList &names = modelNames();
         for (const QString &model : names) {
             const QString label = names.indexOf(model) < 4 ? u"BIST ildo3:"_s : u"BIST ildo7:"_s;
             const double limit = names.indexOf(model) < 6 ? 1.7 : 3.35;
