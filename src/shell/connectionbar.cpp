@@ -65,8 +65,7 @@ Light lightOf(Lamp lamp)
 /// The newest models carry the successor of the older port controller.
 QString portController(const QString &model)
 {
-    const QString family = model.left(4);
-    return family == "IP X"_L1 || family == "IP 8"_L1 ? u"Hydra"_s : u"Tristar"_s;
+    return isNewestGeneration(model) ? u"Hydra"_s : u"Tristar"_s;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "models.h"
 #include "railbutton.h"
 #include "theme.h"
 
@@ -72,8 +73,7 @@ RailButton *ModuleRail::addButton(const Module &module)
 /// The screen of the port controller is called by the chip that the model has.
 static QStringView captionKey(const Module &module, const QString &model)
 {
-    const bool newest = model.startsWith("IP X"_L1) || model.startsWith("IP 8"_L1);
-    return module.name == "Tristar"_L1 && newest ? QStringView(u"Hydra") : module.caption;
+    return module.name == "Tristar"_L1 && isNewestGeneration(model) ? QStringView(u"Hydra") : module.caption;
 }
 
 void ModuleRail::Traducao_Form(Language language, const QString &model)
