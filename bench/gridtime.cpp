@@ -13,7 +13,7 @@ static constexpr Intervals kNever{.poll = std::chrono::hours(1)};
 
 GridTime::GridTime(const QString &store, const QByteArray &reply)
     : m_port(reply),
-      m_store(store, StoreQueue::Waiting::Blocking),
+      m_store(store, StoreQueue::Waiting::ByTimer),
       m_session({.port = m_port, .store = m_store, .boxes = m_boxes, .deviceFor = {}, .intervals = kNever}),
       m_form(m_session)
 {

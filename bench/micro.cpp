@@ -1,11 +1,13 @@
 // Small things that happen often, in this process and without a display.
 
 #include "buckldoreading.h"
+#include "consoletime.h"
 #include "contest.h"
 #include "figurereporter.h"
 #include "gridtime.h"
 #include "phoneprofile.h"
 #include "railtable.h"
+#include "replydifference.h"
 
 #include <QApplication>
 
@@ -16,6 +18,8 @@ namespace {
 
 constexpr int kRepetitions = 25;
 constexpr qsizetype kReply = 6000;
+constexpr int kLines = 100'000;
+constexpr int kLongRepetitions = 5;
 
 /// The self-test as the phone sends it, made 6 kB long by lines that nobody asks for, as other models have them.
 QByteArray longReply()
@@ -70,6 +74,32 @@ void paintGrid(benchmark::State &state, GridTime &grid)
         state.SetIterationTime(grid.promptToPaint());
 }
 
+/// As many lines as a phone hardly prints, each with a label of its own; one in a hundred has another number.
+QString hundredThousandLines(int changed)
+{
+    QString reply;
+    for (int line = 0; line < kLines; ++line) {
+        const int value = line % 100 == 0 ? changed : 1000;
+        reply += u"BIST rail%1: %2.0000 mV\r\n"_s.arg(line).arg(value);
+    }
+    return reply;
+}
+
+void compareReplies(benchmark::State &state)
+{
+    const DifferenceInput input{.live = hundredThousandLines(1200), .recorded = hundredThousandLines(1800)};
+    for (auto _ : state)
+        benchmark::DoNotOptimize(difference(input));
+    if (difference(input).differing != kLines / 100)
+        giveUp(u"the difference is not what was put in"_s);
+}
+
+void floodConsole(benchmark::State &state, ConsoleTime &console)
+{
+    for (auto _ : state)
+        state.SetIterationTime(console.longestStep());
+}
+
 benchmark::internal::Benchmark *medianOf(benchmark::internal::Benchmark *one)
 {
     return one->Unit(benchmark::kMillisecond)->Repetitions(kRepetitions)->ReportAggregatesOnly();
@@ -94,6 +124,15 @@ int main(int argc, char **argv)
         ->Iterations(4);
     medianOf(benchmark::RegisterBenchmark("open the store and read 120 rows", readStore, store))->MinTime(0.02);
     medianOf(benchmark::RegisterBenchmark("gather 20 MB in chunks of 4 kB", gatherMegabytes))->MinTime(0.02);
+    medianOf(benchmark::RegisterBenchmark("difference of two replies of 100,000 lines", compareReplies))
+        ->Repetitions(kLongRepetitions)
+        ->Iterations(1);
+    ConsoleTime console(store);
+    medianOf(
+        benchmark::RegisterBenchmark("20 MB into the open console, longest block", floodConsole, std::ref(console)))
+        ->UseManualTime()
+        ->Repetitions(kLongRepetitions)
+        ->Iterations(1);
     FigureReporter figures;
     benchmark::RunSpecifiedBenchmarks(&figures);
 }

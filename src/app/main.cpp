@@ -48,7 +48,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"tavimo-prelt"_s);
     QApplication::setApplicationVersion(u"2.22"_s);
     const StartOptions options = startOptions(QApplication::arguments());
-    applyTheme(app, options.theme);
+    applyTheme(options.theme);
     QSplashScreen splash(programIcon().pixmap(192));
     showSplash(splash);
 
@@ -66,6 +66,7 @@ int main(int argc, char **argv)
         return kNoStore;
     }
     Startup startup(options);
+    applyStyleSheet(app);
     startup.begin();
     splash.close();
     return QApplication::exec();

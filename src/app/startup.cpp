@@ -29,7 +29,11 @@ Startup::Startup(const StartOptions &options)
                  .store = m_store,
                  .boxes = m_boxes,
                  .deviceFor = [this](const PortAddress &address) { return m_resolver.deviceFor(address); },
-                 .open = [](const QString &address) { QDesktopServices::openUrl(QUrl(address)); }}),
+                 .open =
+                     [this](const QString &address) {
+                         if (!QDesktopServices::openUrl(QUrl(address)))
+                             m_boxes.message({{u"DOCUMENT_NOT_OPENED"_s, {address}}});
+                     }}),
       m_window({m_session, m_log, portsOfThisMachine}),
       m_import(m_session)
 {
@@ -75,23 +79,29 @@ void Startup::probeInternet()
         [this](const QString &address) { m_reachability.probe(address); });
 }
 
+void Startup::lookAround()
+{
+    keepBackup();
+    m_import.offer(Occasion::Start);
+    probeInternet();
+    if (m_options.connects) // a phone is not asked while nobody has time to listen
+        m_window.Botoes_Click(1);
+}
+
 void Startup::begin()
 {
     m_session.load();
-    probeInternet();
-    m_import.offer(Occasion::Start);
     m_window.restore(windowStateFrom(stateFile()));
     if (!m_options.port.isEmpty())
         m_window.connectionBar().setPort(m_options.port);
+    m_window.askForTerms();
     m_window.show();
     if (!m_options.screen.isEmpty())
         m_window.openScreen(m_options.screen);
     m_window.showLog(m_options.showsLog);
     if (m_options.reads)
         readOnceConnected();
-    if (m_options.connects)
-        m_window.Botoes_Click(1);
-    QTimer::singleShot(0, &m_window, [this] { keepBackup(); }); // the window comes first
+    QTimer::singleShot(0, &m_window, [this] { lookAround(); }); // the window comes first
 }
 
 static void showCritical(const QString &title, const QStringList &lines)

@@ -20,6 +20,7 @@ public:
     void begin();
 
 private:
+    void lookAround();
     void probeInternet();
     void keepBackup();
     void readOnceConnected();

@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kLongestTimeoutSeconds = 24 * 60 * 60;
+
 using Commands = std::vector<std::pair<CLI::App *, Arguments::Command>>;
 
 CLI::Option *addText(CLI::App &app, const char *name, QString &target, const char *help)
@@ -49,36 +51,73 @@ void addModel(CLI::App &app, CommonOptions &common, const char *help)
     addText(app, "--model", common.model, help)->check(CLI::IsMember(modelChoices()));
 }
 
-void addPort(CLI::App &app, CommonOptions &common)
+CLI::Option *addPort(CLI::App &app, CommonOptions &common)
 {
-    addText(app, "--port", common.port, "COMn, n, a device path, or sim:MODEL[,fault...]")->required();
+    CLI::Option *port = addText(app, "--port", common.port, "COMn, n, a device path, or sim:MODEL[,fault...]");
+    port->required();
     app.add_option_function<int>(
            "--timeout", [&common](int seconds) { common.timeout = std::chrono::seconds(seconds); },
            "give up after so many seconds")
-        ->check(CLI::PositiveNumber);
+        ->check(CLI::Range(1, kLongestTimeoutSeconds, "seconds"));
+    return port;
 }
 
-void addScreenOptions(CLI::App &app, const ScreenCommand &screen, ScreenOptions &options)
+CLI::Option *addReply(CLI::App &app, QString &replyFile)
 {
-    if (screen.hasKind)
-        app.add_option("--kind", options.kind, "1 LDOs, 2 bucks")->check(CLI::IsMember({1, 2}))->capture_default_str();
-    if (!screen.hasDecimals)
+    return addText(app, "--reply", replyFile, "file with the bytes as the phone sent them; - reads standard input");
+}
+
+std::string emptyComplaint(const std::string &text)
+{
+    return text.find_first_not_of(' ') == std::string::npos ? "it is empty" : "";
+}
+
+void addScreenOption(CLI::App &app, const ScreenOption &option, QMap<QString, QString> &given)
+{
+    const auto take = [&given, name = QString::fromLatin1(option.name)](const std::string &text) {
+        given.insert(name, QString::fromStdString(text));
+    };
+    if (option.takes == ScreenOption::Takes::Nothing) {
+        app.add_flag_callback(
+            option.name, [take] { take({}); }, option.help);
         return;
-    addText(app, "--volts", options.volts, "decimal places of volts: 1, 2 or 3")->check(CLI::IsMember({"1", "2", "3"}));
-    addText(app, "--amps", options.amps, "decimal places of milliamperes: 0 to 3")
-        ->check(CLI::IsMember({"0", "1", "2", "3"}));
+    }
+    CLI::Option *added = app.add_option_function<std::string>(option.name, take, option.help);
+    added->required(option.need == ScreenOption::Need::Required);
+    if (!option.choices.empty())
+        added->check(CLI::IsMember(std::vector<std::string>(option.choices.begin(), option.choices.end())));
+    if (option.complaint)
+        added->check(option.complaint);
+    if (option.preset)
+        added->default_str(option.preset);
+}
+
+void addScreenOptions(CLI::App &app, const ScreenCommand &screen, ScreenOption::Use use, ScreenOptions &options)
+{
+    CLI::App *alternatives = nullptr;
+    for (const ScreenOption &option : screen.options) {
+        if (option.use == ScreenOption::Use::OnPhone && use != option.use)
+            continue;
+        const bool isAlternative = option.need == ScreenOption::Need::OneOf;
+        if (isAlternative && !alternatives) {
+            alternatives = app.add_option_group("one of");
+            alternatives->require_option(1);
+        }
+        addScreenOption(isAlternative ? *alternatives : app, option, options.given);
+    }
 }
 
 /// `run` and `judge` have one subcommand per screen.
-void addScreens(CLI::App &parent, Arguments &arguments, const std::function<void(CLI::App &)> &addOwn)
+void addScreens(CLI::App &parent, Arguments &arguments, ScreenOption::Use use,
+                const std::function<void(CLI::App &)> &addOwn)
 {
     parent.require_subcommand(1);
-    for (const ScreenCommand &screen : screenCommands()) {
-        CLI::App *app = parent.add_subcommand(screen.command.data(), screen.help.data());
+    for (const ScreenCommand *screen : screenCommands()) {
+        CLI::App *app = parent.add_subcommand(screen->command.data(), screen->help.data());
         addCommon(*app, arguments.common);
-        addScreenOptions(*app, screen, arguments.screen);
+        addScreenOptions(*app, *screen, use, arguments.screen);
         addOwn(*app);
-        app->final_callback([&arguments, name = QString(screen.command)] { arguments.screen.screen = name; });
+        app->final_callback([&arguments, name = QString(screen->command)] { arguments.screen.screen = name; });
     }
 }
 
@@ -98,6 +137,41 @@ void addStore(CLI::App &app, Arguments &arguments, Commands &commands)
     }
 }
 
+void addCommand(CLI::App &app, ConsoleOptions &console)
+{
+    addText(app, "--command", console.command, "the command line")->required()->check(emptyComplaint);
+}
+
+CLI::App *addRecord(CLI::App &app, Arguments &arguments)
+{
+    CLI::App *record = app.add_subcommand("record", "keep a known-good phone's reply to a command");
+    addCommon(*record, arguments.common);
+    addCommand(*record, arguments.console);
+    addPort(*record, arguments.common);
+    addModel(*record, arguments.common, "model of the phone (else detected)");
+    return record;
+}
+
+/// Either a phone is asked, or a saved reply of a known model is taken.
+CLI::App *addCompare(CLI::App &app, Arguments &arguments)
+{
+    CLI::App *compare = app.add_subcommand("compare", "hold a phone's reply against the recorded one");
+    addCommon(*compare, arguments.common);
+    addCommand(*compare, arguments.console);
+    addModel(*compare, arguments.common, "model of the phone (else detected; needed with --reply)");
+    compare->add_option("--tolerance", arguments.console.tolerance, "numbers apart by so many per cent are alike")
+        ->check(CLI::Range(0.0, 100.0))
+        ->capture_default_str();
+    CLI::Option *port = addPort(*compare, arguments.common)->required(false);
+    CLI::Option *reply = addReply(*compare, arguments.console.replyFile)->excludes(port);
+    reply->needs(compare->get_option("--model"));
+    compare->final_callback([port, reply] {
+        if (port->count() == 0 && reply->count() == 0)
+            throw CLI::RequiredError("--port or --reply");
+    });
+    return compare;
+}
+
 Commands addCommands(CLI::App &app, Arguments &arguments)
 {
     CLI::App *ports = app.add_subcommand("ports", "list the serial ports");
@@ -109,30 +183,30 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
         addCommon(*live, arguments.common);
         addPort(*live, arguments.common);
     }
-    addText(*send, "command", arguments.text, "the command line")->required()->check([](const std::string &text) {
-        return text.find_first_not_of(' ') == std::string::npos ? "it is empty" : "";
-    });
+    addText(*send, "command", arguments.text, "the command line")->required()->check(emptyComplaint);
+    addText(*send, "--log", arguments.logFile, "take the exchange down in this file, with times");
 
     CLI::App *run = app.add_subcommand("run", "ask the phone, judge, print");
-    addScreens(*run, arguments, [&arguments](CLI::App &screen) {
+    addScreens(*run, arguments, ScreenOption::Use::OnPhone, [&arguments](CLI::App &screen) {
         addPort(screen, arguments.common);
         addModel(screen, arguments.common, "model of the phone (else detected)");
     });
     CLI::App *judge = app.add_subcommand("judge", "judge a saved reply; no phone needed");
-    addScreens(*judge, arguments, [&arguments](CLI::App &screen) {
+    addScreens(*judge, arguments, ScreenOption::Use::Always, [&arguments](CLI::App &screen) {
         addModel(screen, arguments.common, "model of the phone");
         screen.get_option("--model")->required();
-        addText(screen, "--reply", arguments.screen.replyFile,
-                "file with the bytes as the phone sent them; - reads standard input")
-            ->required();
+        addReply(screen, arguments.screen.replyFile)->required();
     });
 
+    CLI::App *record = addRecord(app, arguments);
+    CLI::App *compare = addCompare(app, arguments);
     CLI::App *sim = app.add_subcommand("sim", "run a simulated phone and print its device path");
     addText(*sim, "phone", arguments.text, "MODEL[,fault...], for example \"IP 7,ldo2=1200\"")->required();
 
-    Commands commands{{ports, Arguments::Command::Ports}, {detect, Arguments::Command::Detect},
-                      {send, Arguments::Command::Send},   {run, Arguments::Command::Run},
-                      {judge, Arguments::Command::Judge}, {sim, Arguments::Command::Sim}};
+    Commands commands{{ports, Arguments::Command::Ports},     {detect, Arguments::Command::Detect},
+                      {send, Arguments::Command::Send},       {run, Arguments::Command::Run},
+                      {judge, Arguments::Command::Judge},     {record, Arguments::Command::Record},
+                      {compare, Arguments::Command::Compare}, {sim, Arguments::Command::Sim}};
     addStore(app, arguments, commands);
     return commands;
 }

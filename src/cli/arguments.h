@@ -1,5 +1,6 @@
 #pragma once
 
+#include "consoleerrand.h"
 #include "exitcode.h"
 #include "options.h"
 
@@ -20,15 +21,19 @@ struct Arguments
         Run,
         Judge,
         Store,
+        Record,
+        Compare,
         Sim
     };
 
     Command command = Command::Ports;
     CommonOptions common;
     ScreenOptions screen;
+    ConsoleOptions console;
     const StoreCommand *storeCommand = nullptr;
     QString text;  ///< the command line to send, the phone to simulate, or the first word after a store command
     QString value; ///< the second one
+    QString logFile;
 };
 
 /// The arguments, or the code to end with after help or a complaint was printed.

@@ -17,6 +17,7 @@ public:
     Bench(const CommonOptions &options, const QByteArray &reply);
 
     Session &session() { return *m_session; }
+    Port &port() { return *m_port; }
     TerminalBoxes &boxes() { return m_boxes; }
 
 private:

@@ -22,6 +22,7 @@ signals:
 
 protected:
     Session &session() { return m_bench.session(); }
+    Port &port() { return m_bench.port(); }
     const CommonOptions &options() const { return m_options; }
     Language language() { return session().language(); }
     const QList<Notice> &messages() { return m_bench.boxes().shown(); }

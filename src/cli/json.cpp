@@ -1,6 +1,5 @@
 #include "json.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +13,8 @@ static QJsonObject fieldObject(const Field &field)
         object[u"back"_s] = literal(*field.back);
     if (field.fore)
         object[u"fore"_s] = literal(*field.fore);
+    if (field.items)
+        object[u"items"_s] = QJsonArray::fromStringList(*field.items);
     if (field.visible)
         object[u"visible"_s] = *field.visible;
     if (field.enabled)
@@ -41,7 +42,7 @@ static QJsonArray rowsArray(const QList<Row> &rows)
     return array;
 }
 
-static QJsonArray messagesArray(const QList<Notice> &messages)
+QJsonArray messagesArray(const QList<Notice> &messages)
 {
     QJsonArray array;
     for (const Notice &notice : messages) {

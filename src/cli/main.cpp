@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "consoleerrand.h"
 #include "detecterrand.h"
 #include "readingerrand.h"
 #include "senderrand.h"
@@ -35,12 +36,18 @@ static std::optional<QByteArray> readReply(const QString &path)
     return {};
 }
 
-static int judge(QCoreApplication &app, const Arguments &arguments)
+/// On a phone, or on a saved reply where one is named.
+template <typename T, typename Options>
+static int runOnReply(QCoreApplication &app, const CommonOptions &common, const Options &options)
 {
-    const auto reply = readReply(arguments.screen.replyFile);
+    if (options.replyFile.isEmpty()) {
+        T errand(common, options);
+        return runErrand(app, errand);
+    }
+    const auto reply = readReply(options.replyFile);
     if (!reply)
         return static_cast<int>(ExitCode::Usage);
-    ReadingErrand errand(arguments.common, arguments.screen, *reply);
+    T errand(common, options, *reply);
     return runErrand(app, errand);
 }
 
@@ -62,8 +69,13 @@ static int runCommand(QCoreApplication &app, const Arguments &arguments)
         return static_cast<int>(listPorts(arguments.common));
     case Arguments::Command::Store:
         return static_cast<int>(arguments.storeCommand->run(arguments.common, arguments.text, arguments.value));
+    case Arguments::Command::Run:
     case Arguments::Command::Judge:
-        return judge(app, arguments);
+        return runOnReply<ReadingErrand>(app, arguments.common, arguments.screen);
+    case Arguments::Command::Record:
+        return runOnReply<RecordErrand>(app, arguments.common, arguments.console);
+    case Arguments::Command::Compare:
+        return runOnReply<CompareErrand>(app, arguments.common, arguments.console);
     case Arguments::Command::Sim:
         return simulate(app, arguments);
     case Arguments::Command::Detect: {
@@ -71,14 +83,19 @@ static int runCommand(QCoreApplication &app, const Arguments &arguments)
         return runErrand(app, errand);
     }
     case Arguments::Command::Send: {
-        SendErrand errand(arguments.common, arguments.text);
-        return runErrand(app, errand);
-    }
-    case Arguments::Command::Run: {
-        ReadingErrand errand(arguments.common, arguments.screen);
+        SendErrand errand(arguments.common, arguments.text, arguments.logFile);
         return runErrand(app, errand);
     }
     }
+    return static_cast<int>(ExitCode::Usage);
+}
+
+/// A verdict that a full disk swallowed must not end like one that was printed.
+static int unlessUnwritten(int code)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return code;
+    printError(u"prelt: the output could not be written whole. Make room where it goes, or name another file."_s);
     return static_cast<int>(ExitCode::Usage);
 }
 
@@ -90,5 +107,5 @@ int main(int argc, char **argv)
     const auto arguments = parseArguments(argc, argv);
     if (const auto *code = std::get_if<ExitCode>(&arguments))
         return static_cast<int>(*code);
-    return runCommand(app, std::get<Arguments>(arguments));
+    return unlessUnwritten(runCommand(app, std::get<Arguments>(arguments)));
 }

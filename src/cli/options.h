@@ -2,6 +2,7 @@
 
 #include "language.h"
 
+#include <QMap>
 #include <QString>
 
 #include <chrono>
@@ -18,12 +19,10 @@ struct CommonOptions
     bool json = false;
 };
 
-/// The options of single screens; what is not given comes from the store.
+/// The screen that a command runs, and its own options; what is not given comes from the store.
 struct ScreenOptions
 {
     QString screen; ///< as the command line names it: "buckldo"
     QString replyFile;
-    int kind = 2;
-    QString volts;
-    QString amps;
+    QMap<QString, QString> given; ///< the texts of its options by their names: "--kind"
 };

@@ -54,16 +54,18 @@ void ReadingErrand::readScreen()
     if (std::exchange(m_reading, true))
         return;
     m_screen->open();
-    screenByCommand(m_screenOptions.screen)->apply(*m_screen, m_screenOptions);
+    giveOptions(*m_screen, m_screenOptions);
     m_screen->read();
 }
 
 void ReadingErrand::printReading()
 {
+    if (isFinished())
+        return;
     const Panel &panel = m_screen->reading();
     if (!session().isModelKnown())
         return refuseWithoutModel();
-    if (!m_screen->hasReading()) // why was told when it was refused
+    if (!m_screen->hasAnswer()) // why was told when it was refused
         return finish(ExitCode::Link);
     const ReadingContext context{session().model(), language(), session().txtComandos(), messages()};
     printOut(options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted()));

@@ -1,38 +1,41 @@
 #include "screentable.h"
 
-#include "buckldoscreen.h"
+#include "checkcommands.h"
+#include "chipcommands.h"
+#include "options.h"
+#include "powercommands.h"
 
 #include <algorithm>
 #include <array>
 
-using namespace Qt::StringLiterals;
+static constexpr std::array kGroups = {powerCommands, chipCommands, checkCommands};
 
-template <typename T>
-static std::unique_ptr<Screen> make(Session &session)
+QList<const ScreenCommand *> screenCommands()
 {
-    return std::make_unique<T>(session);
-}
-
-static void applyRailOptions(Screen &screen, const ScreenOptions &options)
-{
-    auto &rails = static_cast<RailScreen &>(screen);
-    rails.chooseKind(options.kind);
-    rails.ComboDecimais_Click(options.volts);
-    rails.ComboDecimaisAmp_Click(options.amps);
-}
-
-static constexpr std::array kScreens = {
-    ScreenCommand{"buckldo"_L1, "bucks and LDOs beside their references"_L1, true, true, make<BuckLdoScreen>,
-                  applyRailOptions},
-};
-
-std::span<const ScreenCommand> screenCommands()
-{
-    return kScreens;
+    QList<const ScreenCommand *> all;
+    for (const auto group : kGroups)
+        for (const ScreenCommand &screen : group())
+            all.append(&screen);
+    return all;
 }
 
 const ScreenCommand *screenByCommand(const QString &command)
 {
-    const auto found = std::ranges::find_if(kScreens, [&](const auto &row) { return row.command == command; });
-    return found == kScreens.end() ? nullptr : &*found;
+    const auto all = screenCommands();
+    const auto found = std::ranges::find(all, command, &ScreenCommand::command);
+    return found == all.end() ? nullptr : *found;
+}
+
+static std::optional<QString> givenText(const ScreenOption &option, const ScreenOptions &options)
+{
+    if (const auto given = options.given.find(QLatin1StringView(option.name)); given != options.given.end())
+        return *given;
+    return option.preset ? std::optional(QString::fromLatin1(option.preset)) : std::nullopt;
+}
+
+void giveOptions(Screen &screen, const ScreenOptions &options)
+{
+    for (const ScreenOption &option : screenByCommand(options.screen)->options)
+        if (const auto text = givenText(option, options))
+            option.give(screen, *text);
 }

@@ -1,21 +1,14 @@
 #pragma once
 
-#include "options.h"
-#include "screen.h"
+#include "screencommand.h"
 
-#include <memory>
-#include <span>
+#include <QList>
 
-/// A screen that the command line can run.
-struct ScreenCommand
-{
-    QLatin1StringView command;
-    QLatin1StringView help;
-    bool hasKind = false;
-    bool hasDecimals = false;
-    std::unique_ptr<Screen> (*make)(Session &session);
-    void (*apply)(Screen &screen, const ScreenOptions &options);
-};
+struct ScreenOptions;
 
-std::span<const ScreenCommand> screenCommands();
+/// Every screen that the command line can run.
+QList<const ScreenCommand *> screenCommands();
 const ScreenCommand *screenByCommand(const QString &command);
+
+/// Gives a screen what the command line says, else the presets.
+void giveOptions(Screen &screen, const ScreenOptions &options);

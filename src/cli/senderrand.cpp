@@ -1,5 +1,6 @@
 #include "senderrand.h"
 
+#include "commandguard.h"
 #include "json.h"
 #include "terminal.h"
 
@@ -7,9 +8,11 @@ using namespace Qt::StringLiterals;
 
 static constexpr auto kConsoleCode = "1"_L1;
 
-SendErrand::SendErrand(CommonOptions options, QString command)
+SendErrand::SendErrand(CommonOptions options, QString command, const QString &logFile)
     : Errand(std::move(options)), m_command(std::move(command))
 {
+    if (!logFile.isEmpty())
+        m_log = std::make_unique<FileLog>(logFile);
     session().attach(kConsoleCode, this);
 }
 
@@ -21,13 +24,17 @@ SendErrand::~SendErrand()
 void SendErrand::start()
 {
     Errand::start();
+    if (const Result<Done> opened = m_log ? m_log->open() : Done{}; !opened)
+        return fail(opened.trouble(), ExitCode::Usage);
+    if (m_log)
+        m_log->watch(port());
     connectToPhone();
 }
 
 void SendErrand::connectedToPhone()
 {
     if (!session().request(kConsoleCode, m_command))
-        finish(ExitCode::Link);
+        finish(leavesPhoneAsItIs(m_command) ? ExitCode::Link : ExitCode::Usage);
 }
 
 void SendErrand::take(const Delivery &delivery)
@@ -40,7 +47,16 @@ void SendErrand::take(const Delivery &delivery)
         printOut(QString(delivery.reply).remove(u'\r').trimmed() + u'\n');
     if (delivery.cut)
         return fail({{u"REPLY_CUT"_s}}, ExitCode::Incomplete);
-    finish(ExitCode::Good);
+    end(ExitCode::Good);
+}
+
+/// A log that is not whole is no good end.
+void SendErrand::end(ExitCode code)
+{
+    if (m_log && m_log->isBroken())
+        fail(m_log->trouble(), ExitCode::Store);
+    else
+        finish(code);
 }
 
 void SendErrand::release(Release why, const Delivery &partial)

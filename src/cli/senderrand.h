@@ -1,7 +1,10 @@
 #pragma once
 
 #include "errand.h"
+#include "filelog.h"
 #include "receiver.h"
+
+#include <memory>
 
 /// Sends one command line and prints the phone's reply.
 class SendErrand : public Errand, public Receiver
@@ -9,7 +12,8 @@ class SendErrand : public Errand, public Receiver
     Q_OBJECT
 
 public:
-    SendErrand(CommonOptions options, QString command);
+    /// With a path the exchange is taken down there.
+    SendErrand(CommonOptions options, QString command, const QString &logFile);
     ~SendErrand() override;
 
     void start() override;
@@ -21,5 +25,8 @@ protected:
     void connectedToPhone() override;
 
 private:
+    void end(ExitCode code);
+
     QString m_command;
+    std::unique_ptr<FileLog> m_log;
 };

@@ -124,19 +124,25 @@ struct GridColumn
     Qt::AlignmentFlag alignment;
 };
 
-constexpr std::array<GridColumn, 9> kColumns = {{{u"Orig", u"Saída", Qt::AlignLeft},
-                                                 {u"Malha", u"Malha", Qt::AlignLeft},
-                                                 {u"Ci", u"IC", Qt::AlignLeft},
-                                                 {u"Leitura", u"Leitura", Qt::AlignRight},
-                                                 {u"REF", u"Referência", Qt::AlignRight},
-                                                 {u"PORC", u"Desvio", Qt::AlignRight},
-                                                 {u"G1", u"G1", Qt::AlignRight},
-                                                 {u"G2", u"G2", Qt::AlignRight},
-                                                 {u"G3", u"G3", Qt::AlignRight}}};
+constexpr std::array<GridColumn, 15> kColumns = {{{u"Dado", u"Dados", Qt::AlignLeft},
+                                                  {u"Barramento", u"Barramento", Qt::AlignLeft},
+                                                  {u"Endereço", u"Endereço", Qt::AlignLeft},
+                                                  {u"Componente", u"Componente", Qt::AlignLeft},
+                                                  {u"Orig", u"Saída", Qt::AlignLeft},
+                                                  {u"Malha", u"Malha", Qt::AlignLeft},
+                                                  {u"Ci", u"IC", Qt::AlignLeft},
+                                                  {u"Leitura", u"Leitura", Qt::AlignRight},
+                                                  {u"LEITURA_A", u"Corrente", Qt::AlignRight},
+                                                  {u"REF", u"Referência", Qt::AlignRight},
+                                                  {u"PORC", u"Desvio", Qt::AlignRight},
+                                                  {u"Falha", u"Falhas i2c", Qt::AlignLeft},
+                                                  {u"G1", u"G1", Qt::AlignRight},
+                                                  {u"G2", u"G2", Qt::AlignRight},
+                                                  {u"G3", u"G3", Qt::AlignRight}}};
 
-bool isUsed(const Panel &panel, const GridColumn &column)
+bool isUsed(const QList<Row> &rows, const GridColumn &column)
 {
-    return std::ranges::any_of(panel.rows, [&](const Row &row) { return !row.cell(column.name).isEmpty(); });
+    return std::ranges::any_of(rows, [&](const Row &row) { return !row.cell(column.name).isEmpty(); });
 }
 
 QString heading(const GridColumn &column, Language language)
@@ -145,26 +151,26 @@ QString heading(const GridColumn &column, Language language)
     return text.isEmpty() ? column.name.toString() : text;
 }
 
-QString grid(const Panel &panel, Language language, bool colour)
+QString grid(const QList<Row> &shown, Language language, bool colour)
 {
     QList<GridColumn> columns;
     std::ranges::copy_if(kColumns, std::back_inserter(columns),
-                         [&](const auto &column) { return isUsed(panel, column); });
+                         [&](const auto &column) { return isUsed(shown, column); });
     QList<QStringList> rows{{QString()}};
     QList<Qt::Alignment> alignments{Qt::AlignLeft};
     for (const GridColumn &column : columns) {
         rows.front().append(heading(column, language));
         alignments.append(column.alignment);
     }
-    for (const Row &row : panel.rows) {
+    for (const Row &row : shown) {
         QStringList cells{look(row.verdict).mark.toString()};
         for (const GridColumn &column : columns)
             cells.append(row.cell(column.name));
         rows.append(cells);
     }
     QStringList lines = aligned(rows, alignments).split(u'\n', Qt::SkipEmptyParts);
-    for (qsizetype i = 0; i < panel.rows.size(); ++i)
-        lines[i + 1] = coloured(lines[i + 1], panel.rows[i].verdict, colour);
+    for (qsizetype i = 0; i < shown.size(); ++i)
+        lines[i + 1] = coloured(lines[i + 1], shown[i].verdict, colour);
     return lines.join(u'\n') + u'\n';
 }
 
@@ -182,18 +188,50 @@ QString summary(const Panel &panel, Language language)
     return parts.join(", "_L1);
 }
 
+/// Where there is no grid, what gave no reading has no line of its own.
+QString unmeasured(const Panel &panel)
+{
+    QString text;
+    for (const Judgement &judgement : panel.judgements)
+        if (judgement.verdict == Verdict::Incomplete)
+            text += u"   %1: %2\n"_s.arg(judgement.what, judgement.reading);
+    return text;
+}
+
+/// The footnotes of the screens, as far as a reading set them.
+QString notes(const Panel &panel)
+{
+    static constexpr std::array<QStringView, 3> kNotes = {u"lbVar", u"lbVarInfo", u"lbStatus2"};
+    QString text;
+    for (const QStringView name : kNotes) {
+        const Field field = panel.fields.value(name.toString());
+        const QString note = field.visible.value_or(true) ? field.text.value_or(QString()) : QString();
+        if (!note.isEmpty())
+            text += u'\n' + note + u'\n';
+    }
+    return text;
+}
+
 } // namespace
+
+QString verdictText(Verdict verdict, Language language, bool colour)
+{
+    return coloured(caption(look(verdict).key, language).toUpper(), verdict, colour);
+}
 
 QString readable(const Panel &panel, Language language, bool colour)
 {
-    const QString verdict = coloured(caption(look(panel.verdict).key, language).toUpper(), panel.verdict, colour);
+    const QString verdict = verdictText(panel.verdict, language, colour);
     QString text = panel.title + u'\n';
-    if (!panel.rows.isEmpty())
-        text += u'\n' + grid(panel, language, colour);
+    const QList<Row> &rows = panel.rows.isEmpty() ? panel.facts : panel.rows;
+    if (!rows.isEmpty())
+        text += u'\n' + grid(rows, language, colour);
     for (const QString &line : panel.lines)
         text += line + u'\n';
-    if (const auto note = panel.fields.value(u"lbVar"_s).text; note && !panel.rows.isEmpty())
-        text += u'\n' + *note + u'\n';
+    if (rows.isEmpty())
+        text += unmeasured(panel);
+    else
+        text += notes(panel);
     const QString counts = summary(panel, language);
     return text + u'\n' + verdict + (counts.isEmpty() ? QString() : u" ("_s + counts + u')') + u'\n';
 }

@@ -18,5 +18,8 @@ bool colourWanted();
 /// Columns of text, padded to the widest cell; the last one is not.
 QString aligned(const QList<QStringList> &rows, const QList<Qt::Alignment> &alignments);
 
+/// The word of a verdict, large as a terminal can.
+QString verdictText(Verdict verdict, Language language, bool colour);
+
 /// A reading for people: title, grid, lines, verdict.
 QString readable(const Panel &panel, Language language, bool colour);

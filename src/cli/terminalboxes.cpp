@@ -12,5 +12,12 @@ void TerminalBoxes::ask(const Question &question, std::function<void(Answer)> an
 {
     m_shown.append({{}, {question.title, question.text}});
     printError(oneLine({m_shown.last()}, m_language));
-    answered(Answer::Yes);
+    answered(question.choices == Question::Choices::Ok ? Answer::Ok : Answer::Yes);
+}
+
+void TerminalBoxes::input(const Question &question, const QString &proposal,
+                          std::function<void(const QString &)> answered)
+{
+    m_shown.append({{}, {question.title, question.text}});
+    answered(proposal);
 }

@@ -11,6 +11,8 @@ public:
     void setLanguage(Language language) { m_language = language; }
     void message(const Trouble &trouble) override;
     void ask(const Question &question, std::function<void(Answer)> answered) override;
+    void input(const Question &question, const QString &proposal,
+               std::function<void(const QString &)> answered) override;
 
     const QList<Notice> &shown() const { return m_shown; }
 

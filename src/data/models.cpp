@@ -49,3 +49,8 @@ bool isNewestGeneration(const QString &model)
 {
     return model.startsWith("IP 8"_L1) || model.startsWith("IP X"_L1);
 }
+
+bool hasOledPanel(const QString &model)
+{
+    return model == "IP X"_L1;
+}

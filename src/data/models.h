@@ -11,3 +11,6 @@ QString modelForNumber(const QString &number);
 
 /// The generation from the IP 8 on: another port controller, and a processor current that is not shown.
 bool isNewestGeneration(const QString &model);
+
+/// The one model with an OLED panel, which has another display supply chip.
+bool hasOledPanel(const QString &model);

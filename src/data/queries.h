@@ -95,6 +95,14 @@ inline constexpr Query kRfRows{"RfRows",
     "Select * from Rf Where Modelo = :model and Tipo = :kind order by Modelo, Malha, rowid"};
 inline constexpr Query kBusDevices{"BusDevices",
     R"(Select * from i Where Aparelho = :model and i like :bus escape '\')"};
+inline constexpr Query kDeviceSources{"DeviceSources",
+    "Select i, Source from DeviceSources Where Aparelho = :model"};
+inline constexpr Query kDropBusDevices{"DropBusDevices",
+    R"(Delete from i Where Aparelho = :model and i like :bus escape '\')"};
+inline constexpr Query kDropBusSources{"DropBusSources",
+    R"(Delete from DeviceSources Where Aparelho = :model and i like :bus escape '\')"};
+inline constexpr Query kAddDeviceSource{"AddDeviceSource",
+    "Insert into DeviceSources (Aparelho, i, Source) values (:Aparelho, :i, :source)"};
 
 // Commands, recordings and masked texts.
 inline constexpr Query kCommands{"Commands",
@@ -103,6 +111,10 @@ inline constexpr Query kCommandsSorted{"CommandsSorted",
     "Select rowid, * from Comandos order by Comando, rowid"};
 inline constexpr Query kCommand{"Command",
     "Select rowid, * from Comandos where comando = :command"};
+inline constexpr Query kWriteDescriptions{"WriteDescriptions",
+    "Update Comandos set Info = :Info, Info2 = :Info2, Info3 = :Info3 Where Comando = :command"};
+inline constexpr Query kDeleteCommand{"DeleteCommand",
+    "Delete from Comandos Where Comando = :command"};
 inline constexpr Query kRecordings{"Recordings",
     "Select rowid, * from Dados"};
 inline constexpr Query kRecording{"Recording",
@@ -138,6 +150,8 @@ inline constexpr Query kMasks{"Masks",
     "Select * from M"};
 inline constexpr Query kMasksDescending{"MasksDescending",
     "Select * from M order by String desc"};
+inline constexpr Query kAddMask{"AddMask",
+    "Insert into M (String) values (:text)"};
 
 // Settings: tables of one row, and the added table of key and value.
 inline constexpr Query kCombos{"Combos", "Select * from Combos"};

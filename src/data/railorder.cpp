@@ -71,10 +71,22 @@ bool isBefore(const Order &order, const RailRow &left, const RailRow &right)
 
 } // namespace
 
-// The store compares UTF-8 bytes; Qt's lower case of bytes knows A to Z only, as the store's.
+/// A to Z only, as the store folds letters.
+static char16_t folded(QChar letter)
+{
+    const char16_t code = letter.unicode();
+    return code >= u'A' && code <= u'Z' ? static_cast<char16_t>(code + (u'a' - u'A')) : code;
+}
+
+// The store compares UTF-8 bytes: they order as the code points do, so halves of a pair come after all that is whole.
 int compareAsStore(const QString &left, const QString &right)
 {
-    return left.toUtf8().toLower().compare(right.toUtf8().toLower());
+    const auto [one, other] = std::ranges::mismatch(left, right, {}, folded, folded);
+    if (one == left.end() || other == right.end())
+        return (one != left.end()) - (other != right.end());
+    if (const int pairs = one->isSurrogate() - other->isSurrogate(); pairs != 0)
+        return pairs;
+    return folded(*one) - folded(*other);
 }
 
 bool precedes(const RailRow &left, const RailRow &right, RailOrder order)

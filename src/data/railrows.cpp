@@ -124,6 +124,19 @@ Result<QList<RailRow>> railRows(const Store &store, const RailFilter &filter)
     return rowsOf(store, *std::ranges::find(kOrderedQueries, filter.order, &OrderedQuery::order)->query, filter);
 }
 
+Result<QList<RailRow>> chipRails(const Store &store, const QString &model, const QString &chip)
+{
+    Result<QSqlQuery> rails = store.run(kChipRails, {{u":model"_s, model}, {u":chip"_s, u'%' + chip + u'%'}});
+    if (!rails)
+        return rails.trouble();
+    QList<RailRow> rows;
+    while (rails->next())
+        rows += rowAt(*rails);
+    if (rails->lastError().isValid())
+        return store.trouble(*rails);
+    return rows;
+}
+
 Result<Done> clearReadings(Store &store)
 {
     return writeReadings(store, {});

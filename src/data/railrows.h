@@ -50,6 +50,9 @@ struct RailFilter
 
 Result<QList<RailRow>> railRows(const Store &store, const RailFilter &filter);
 
+/// The rails of every kind that feed a chip, by net, without what is known of their references.
+Result<QList<RailRow>> chipRails(const Store &store, const QString &model, const QString &chip);
+
 /// Empties the working columns `Leitura` and `PORC` of every row of every model and kind.
 Result<Done> clearReadings(Store &store);
 

@@ -20,7 +20,7 @@ std::optional<Trouble> troubleWithFile(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.exists())
-        return storeTrouble(u"STORE_MISSING"_s, path, u"no such file"_s);
+        return Trouble{{u"STORE_MISSING"_s, {path}}};
     if (!file.isFile())
         return storeTrouble(u"STORE_FAILED"_s, path, file.isDir() ? u"is a folder"_s : u"is not a file"_s);
     if (!file.isReadable())

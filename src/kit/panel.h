@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -18,9 +19,12 @@ enum class Colour
     Fault,
     Pass,
     OutOfTolerance,
+    InTolerance,
     Status,
     Text,
-    Face
+    Face,
+    Answered,
+    Silent
 };
 
 /// The literal of a colour as scripts know it: "&H00BBGGRR".
@@ -47,13 +51,13 @@ struct Judgement
 {
     QString what;
     QString reading;
-    QString reference;
-    QString source;                       ///< where the reference comes from
+    QString reference = {};
+    QString source = {};                  ///< where the reference comes from
     std::optional<double> deviation = {}; ///< per cent of the reference; nothing when there is no reading
     std::optional<Rule> rule = {};
     Verdict verdict = Verdict::None;
-    QString screen;
-    QString line; ///< the line of the reply that was judged
+    QString screen = {};
+    QString line = {}; ///< the line of the reply that was judged
 
     friend bool operator==(const Judgement &, const Judgement &) = default;
 };
@@ -67,7 +71,10 @@ struct Row
     Verdict verdict = Verdict::None;
     QString source = {};
     QString confidence = {}; ///< in the source: "high", "medium", "low", or empty when not known
+    std::array<std::optional<double>, 3> drift = {}; ///< per cent from each recorded reading, where there is one
 
+    /// The drift that is farthest from none.
+    std::optional<double> largestDrift() const;
     QString cell(QStringView column) const;
 
     friend bool operator==(const Row &, const Row &) = default;
@@ -80,6 +87,7 @@ struct Panel
     QString title;
     QMap<QString, Field> fields; ///< by control name; element n of a control array is "Name(n)"
     QList<Row> rows;
+    QList<Row> facts; ///< the named fields as a table, for where there are no controls to stand in
     QStringList lines;
     QList<Notice> messages; ///< what the reading wants to tell; without a key: title and text of a box of its own
     QList<Judgement> judgements;
@@ -88,3 +96,6 @@ struct Panel
 
     friend bool operator==(const Panel &, const Panel &) = default;
 };
+
+/// A reply that was cut before its end is never judged good.
+void neverGoodWhenCut(Panel &panel, bool cut);

@@ -1,5 +1,6 @@
 #include "railevaluation.h"
 
+#include "drift.h"
 #include "models.h"
 #include "numbertext.h"
 #include "railorder.h"
@@ -18,23 +19,6 @@ static bool isNeverMeasured(const QString &model, const RailRow &row, const Rail
     if (isNewestGeneration(model) && key == rules.firstCore)
         return true;
     return std::ranges::find(rules.never, orig) != rules.never.end() || (rules.skipsCamera && row.ci == "CAM"_L1);
-}
-
-/// The digits after the point, so many of them: a current is printed with more than its reference has.
-static QString withDecimals(const QString &text, qsizetype decimals)
-{
-    const qsizetype point = text.indexOf(u'.');
-    const QString whole = text.left(point < 0 ? text.size() : point);
-    const QString fraction = point < 0 ? QString() : text.mid(point + 1, decimals);
-    return decimals == 0 ? whole : whole + u'.' + fraction.leftJustified(decimals, u'0');
-}
-
-static QString comparable(const LabelledValue &value, const QString &reference)
-{
-    if (value.kind != LabelledValue::Kind::Milliampere)
-        return value.value;
-    const qsizetype point = reference.indexOf(u'.');
-    return withDecimals(QString(value.value).replace(u',', u'.'), point < 0 ? 0 : reference.size() - point - 1);
 }
 
 static QString shownVolts(const QString &value, int decimals)
@@ -61,6 +45,7 @@ static QString shown(const RailContext &context, const LabelledValue &value, con
         return shownMilliamperes(value.value, context.milliDecimals);
     case LabelledValue::Kind::TimedOut:
         return rules.timeoutText.isEmpty() ? missing : QString(rules.timeoutText);
+    case LabelledValue::Kind::Celsius:
     case LabelledValue::Kind::Missing:
         break;
     }
@@ -78,11 +63,13 @@ static void compare(EvaluatedRail &rail, const LabelledValue &value)
     RailRow &row = rail.row;
     if (row.refV.isEmpty())
         return;
-    if (row.refV == "0"_L1 || value.kind == LabelledValue::Kind::Missing) {
+    const bool isTimedOut = value.kind == LabelledValue::Kind::TimedOut;
+    if (row.refV == "0"_L1 || !(isMeasured(value) || isTimedOut)) {
         row.porc = u"0 %"_s;
         return;
     }
-    const auto deviation = deviationText(comparable(value, row.refV), row.refV);
+    const QString reference = threeDecimals(row.refV);
+    const auto deviation = deviationText(comparable(value, reference), reference);
     if (!deviation)
         return;
     row.porc = *deviation + " %"_L1;
@@ -150,7 +137,8 @@ static Row gridRow(const EvaluatedRail &rail)
             rail.rule,
             rail.verdict,
             row.source,
-            row.confidence};
+            row.confidence,
+            {drift(row.leitura, row.g[0]), drift(row.leitura, row.g[1]), drift(row.leitura, row.g[2])}};
 }
 
 static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
@@ -159,14 +147,21 @@ static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
     return {row.malha, row.leitura, row.refV, row.source, rail.deviation, rail.rule, rail.verdict, screen, rail.line};
 }
 
+QList<Judgement> judgementsOf(const QList<EvaluatedRail> &rails, const QString &screen)
+{
+    QList<Judgement> judgements;
+    for (const EvaluatedRail &rail : rails)
+        if (rail.verdict != Verdict::None)
+            judgements.append(judgement(rail, screen));
+    return judgements;
+}
+
 void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut)
 {
     for (const EvaluatedRail &rail : rails) {
         panel.rows.append(gridRow(rail));
-        if (rail.verdict != Verdict::None)
-            panel.judgements.append(judgement(rail, panel.screen));
         panel.verdict = worst(panel.verdict, rail.verdict);
     }
-    if (cut && panel.verdict == Verdict::Pass)
-        panel.verdict = Verdict::Incomplete;
+    panel.judgements += judgementsOf(rails, panel.screen);
+    neverGoodWhenCut(panel, cut);
 }

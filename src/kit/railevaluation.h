@@ -32,7 +32,7 @@ struct RailRules
 /// What a reply is held against, besides the rows.
 struct RailContext
 {
-    QString reply;
+    LabelledReply reply;
     QString model;
     int voltDecimals = 3;
     int milliDecimals = 1;
@@ -60,6 +60,9 @@ bool hasReference(const RailRow &row);
 
 /// The rails in an order, exactly as the store would list their rows.
 QList<EvaluatedRail> sorted(QList<EvaluatedRail> rails, RailOrder order);
+
+/// The judgements of the rails that were held against something.
+QList<Judgement> judgementsOf(const QList<EvaluatedRail> &rails, const QString &screen);
 
 /// The rows, the judgements and the verdict of a grid of rails. A cut reply is never judged good.
 void addRails(Panel &panel, const QList<EvaluatedRail> &rails, bool cut);

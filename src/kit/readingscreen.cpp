@@ -9,6 +9,8 @@ ReadingScreen::ReadingScreen(Session &session, QString name, QString code, QStri
 
 void ReadingScreen::read()
 {
+    if (m_isReading)
+        return;
     if (session().isModelKnown())
         return send();
     if (session().requestModel(m_code))
@@ -39,11 +41,16 @@ void ReadingScreen::begin()
     rebuild();
 }
 
-void ReadingScreen::end()
+void ReadingScreen::stop()
 {
     m_isReading = false;
     readingStopped();
     rebuild();
+}
+
+void ReadingScreen::end()
+{
+    stop();
     emit readingEnded();
 }
 
@@ -52,7 +59,7 @@ void ReadingScreen::take(const Delivery &delivery)
     m_txtDados = delivery.reply;
     m_cut = delivery.cut;
     if (isPrepared())
-        Timer1_Timer();
+        judgeReply();
     else
         prepare();
 }
@@ -65,16 +72,18 @@ void ReadingScreen::release(Release why, const Delivery &partial)
     end();
 }
 
-void ReadingScreen::Timer1_Timer()
+void ReadingScreen::judgeReply()
 {
     if (m_txtDados.isEmpty())
         session().refuse({u"IGNORED_EMPTY_REPLY"_s});
     else if (m_cut)
         session().refuse({u"REPLY_CUT"_s});
-    end();
-    if (m_txtDados.isEmpty())
-        return;
+    stop();
+    const bool isJudged = !m_txtDados.isEmpty() && !repeats();
+    if (m_txtDados.isEmpty() || isJudged)
+        emit readingEnded();
     for (const Notice &notice : reading().messages)
         session().boxes().message({notice});
-    emit judged();
+    if (isJudged)
+        emit judged();
 }

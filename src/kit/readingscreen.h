@@ -23,14 +23,16 @@ public:
     void resume() override { send(); }
     void release(Release why, const Delivery &partial) override;
 
-public slots:
-    /// Judges the reply that was delivered.
-    void Timer1_Timer();
-
 protected:
     /// Sends the screen's command.
     void send();
     void forgetReading();
+    /// Judges the reply that was delivered.
+    void judgeReply();
+    /// The reading is over, with a reply or without.
+    void end();
+    /// The screen will read again by itself: what was just read is on screen, but no finding.
+    virtual bool repeats() { return false; }
 
     /// The reference rows are there; without them a reply waits to be judged.
     virtual bool isPrepared() const { return true; }
@@ -42,7 +44,7 @@ protected:
 
 private:
     void begin();
-    void end();
+    void stop();
 
     QString m_code;
     QString m_command;

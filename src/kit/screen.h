@@ -30,10 +30,14 @@ public:
 
     /// The screen is opened: it fills itself from the store.
     virtual void open() = 0;
+    /// What a screen that was just opened reads by itself.
+    virtual void readAtOpening() {}
     /// The screen's own read button.
     virtual void read() = 0;
     /// A reply was read and judged.
     virtual bool hasReading() const = 0;
+    /// There is something to tell: a reading, or that the model has none.
+    virtual bool hasAnswer() const { return hasReading(); }
     /// Hidden screens run no timers.
     virtual void setShown(bool shown) { Q_UNUSED(shown) }
 
@@ -43,7 +47,8 @@ signals:
     void judged();
     /// A reading has ended, well or not; `panel()` holds it.
     void readingEnded();
-    void screenRequested(const QString &name);
+    /// Another screen is wanted, and there what is named so.
+    void screenRequested(const QString &name, const QString &what = {});
 
 protected:
     QString caption(QStringView key) const;

@@ -21,9 +21,10 @@ Verdict judged(std::optional<double> deviation, const Rule &rule)
 {
     if (!deviation)
         return Verdict::Incomplete;
-    const bool low = rule.lowest && *deviation <= *rule.lowest;
-    const bool high = rule.highest && *deviation >= *rule.highest;
-    return low || high ? Verdict::Fail : Verdict::Pass;
+    const bool low = rule.lowest && *deviation < *rule.lowest;
+    const bool high = rule.highest && *deviation > *rule.highest;
+    const bool at = deviation == rule.lowest || deviation == rule.highest;
+    return low || high || (at && rule.atLimit == AtLimit::Fault) ? Verdict::Fail : Verdict::Pass;
 }
 
 Verdict worst(Verdict one, Verdict other)

@@ -9,14 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr char kHeading[] =
-    "# Tavimo Prelt exchange log. A chunk per line: time (UTC), < from or > to the phone, bytes "
-    "(\\\\ \\r \\n \\t, others \\x and two digits).\n";
-
-} // namespace
-
 ExchangeFile::ExchangeFile(const QString &folder, const ExchangeLimits &limits)
     : m_folder(folder),
       m_stem(QDateTime::currentDateTimeUtc().toString(u"'exchange-'yyyyMMdd-HHmmsszzz"_s) +
@@ -61,7 +53,7 @@ bool ExchangeFile::begin()
         return false;
     ++m_parts;
     m_file.setPermissions(QFile::ReadOwner | QFile::WriteOwner); // it holds serial numbers of customers' phones
-    m_size = m_file.write(kHeading);
+    m_size = m_file.write(kExchangeHeading);
     return m_size > 0;
 }
 

@@ -3,10 +3,15 @@
 #include <QDir>
 #include <QFile>
 
+/// What a file of the exchange begins with.
+inline constexpr char kExchangeHeading[] =
+    "# Tavimo Prelt exchange log. A chunk per line: time (UTC), < from or > to the phone, bytes "
+    "(\\\\ \\r \\n \\t, others \\x and two digits).\n";
+
 /// How much of the exchange is kept where, in bytes.
 struct ExchangeLimits
 {
-    qsizetype memory = 8 << 20;
+    qsizetype memory = 4 << 20;
     qint64 file = 12 << 20;
     qint64 folder = 96 << 20; ///< holds a flood of 20 MB even when every byte takes four
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype kMostUnread = 4 << 20; // far more than a line of this speed brings between two reads
+constexpr qsizetype kMostUnread = 2 << 20; // far more than a line of this speed brings between two reads
 
 /// Two names of one device would not exclude each other, so a line is only ever opened by its one true path.
 QString trueName(const QString &device)

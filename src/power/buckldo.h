@@ -1,12 +1,9 @@
 #pragma once
 
-#include "railform.h"
-
-class BuckLdoScreen;
-class QPushButton;
+#include "railgridform.h"
 
 /// The form of the bucks and LDOs.
-class BuckLdo : public RailForm
+class BuckLdo : public RailGridForm
 {
     Q_OBJECT
 
@@ -16,8 +13,5 @@ public:
     void Traducao_Form() override;
 
 private:
-    QWidget *kinds();
-    void connectButtons();
-
     std::array<QPushButton *, 4> m_botao;
 };

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-BuckLdoScreen::BuckLdoScreen(Session &session, QObject *parent) : RailScreen(session, buckLdoTraits(), parent) {}
+BuckLdoScreen::BuckLdoScreen(Session &session, QObject *parent) : RailGridScreen(session, buckLdoTraits(), parent) {}
 
 void BuckLdoScreen::Botao3_Click()
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "railscreen.h"
+#include "railgridscreen.h"
 
 /// Bucks and LDOs beside their references.
-class BuckLdoScreen : public RailScreen
+class BuckLdoScreen : public RailGridScreen
 {
     Q_OBJECT
 

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Some outputs show no value in diagnostics mode; which ones depends on the generation.
-static QString note(const QString &model, Language language)
+QString generationNote(const QString &model, Language language)
 {
     return caption(isNewestGeneration(model) ? u"VAR4" : u"VAR3", language);
 }
@@ -20,15 +19,15 @@ static EvaluatedRail unread(RailRow row)
     return {row};
 }
 
-static QList<EvaluatedRail> evaluated(const RailScreenTraits &traits, const RailInput &input,
-                                      const QList<RailRow> &rows)
+QList<EvaluatedRail> evaluatedRails(const RailScreenTraits &traits, const RailInput &input, const QList<RailRow> &rows)
 {
-    const RailContext context{input.reply, input.model, input.voltDecimals, input.milliDecimals,
-                              caption(u"Sem Medição", input.language)};
+    const RailContext context{
+        input.reply, input.model, input.voltDecimals, input.milliDecimals, caption(u"Sem Medição", input.language),
+        input.rule};
     QList<EvaluatedRail> rails;
     for (const RailRow &row : rows)
         rails.append(input.reply.isEmpty() ? unread(row) : AvaliaLinhaPmu(context, row, traits.rules));
-    return rails;
+    return sorted(rails, input.order);
 }
 
 /// A hole in the numbering of the reading indices is a mistake in the reference data: the technician is told.
@@ -43,15 +42,34 @@ static QList<Notice> unknownIndices(const QList<EvaluatedRail> &rails)
     return notices;
 }
 
-RailReading readRails(const RailScreenTraits &traits, const RailInput &input, const QList<RailRow> &rows)
+QList<RailRow> rowsOf(const QList<EvaluatedRail> &rails)
 {
-    const QList<EvaluatedRail> rails = sorted(evaluated(traits, input, rows), input.order);
+    QList<RailRow> rows;
+    std::ranges::transform(rails, std::back_inserter(rows), &EvaluatedRail::row);
+    return rows;
+}
+
+RailReading railReading(const RailScreenTraits &traits, const RailInput &input, const QList<EvaluatedRail> &rails)
+{
     RailReading reading;
     reading.panel.screen = traits.name;
     reading.panel.title = traits.title + u" - Tavimo Prelt - "_s + input.model;
-    reading.panel.fields[u"lbVar"_s].text = note(input.model, input.language);
+    reading.panel.fields[u"lbVar"_s].text = generationNote(input.model, input.language);
     reading.panel.messages = unknownIndices(rails);
-    addRails(reading.panel, rails, input.cut);
-    std::ranges::transform(rails, std::back_inserter(reading.rows), &EvaluatedRail::row);
+    reading.rows = rowsOf(rails);
+    reading.judgements = judgementsOf(rails, traits.name);
+    return reading;
+}
+
+RailReading readRails(const RailScreenTraits &traits, const RailInput &input, const QList<RailRow> &rows)
+{
+    const QList<EvaluatedRail> rails = evaluatedRails(traits, input, rows);
+    QList<EvaluatedRail> shown;
+    std::ranges::copy_if(rails, std::back_inserter(shown), [&input](const EvaluatedRail &rail) {
+        return rail.row.ci.contains(input.chip, Qt::CaseInsensitive);
+    });
+    RailReading reading = railReading(traits, input, rails);
+    addRails(reading.panel, shown, input.cut);
+    reading.shown = rowsOf(shown);
     return reading;
 }

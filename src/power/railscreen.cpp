@@ -17,8 +17,10 @@ RailScreen::RailScreen(Session &session, const RailScreenTraits &traits, QObject
     m_input.order = traits.loadOrder;
     m_timerBarra.setInterval(100ms);
     m_timerIndicaVar.setInterval(kBlinkInterval);
+    m_timerGrava.setSingleShot(true);
     connect(&m_timerBarra, &QTimer::timeout, this, &RailScreen::TimerBarra_Timer);
     connect(&m_timerIndicaVar, &QTimer::timeout, this, &RailScreen::TimerIndicaVar_Timer);
+    connect(&m_timerGrava, &QTimer::timeout, this, &RailScreen::TimerGrava_Timer);
     connect(&session, &Session::readingsCleared, this, &RailScreen::LimpaLeiturasExterno);
     connect(&session, &Session::modelChanged, this, &RailScreen::loadRows);
     connect(&session, &Session::languageChanged, this, &RailScreen::rebuild);
@@ -27,7 +29,7 @@ RailScreen::RailScreen(Session &session, const RailScreenTraits &traits, QObject
             Timer1_Timer();
     });
     connect(this, &Screen::judged, this, [this] {
-        storeReadings();
+        m_timerGrava.start();
         blinkNote();
     });
 }
@@ -91,22 +93,31 @@ void RailScreen::rebuild()
     m_input.model = session().model();
     m_input.language = session().language();
     for (const RailKind &kind : m_traits.kinds)
-        m_readings[kind.kind] = readRails(m_traits, m_input, m_rows.value(kind.kind));
-    show(m_readings[m_kind].panel, state());
+        m_readings[kind.kind] = m_traits.read(m_traits, m_input, m_rows.value(kind.kind));
+    m_front = m_readings.value(m_kind);
+    showState();
+}
+
+/// A net may stand in more than one kind.
+static void addOnce(QList<Judgement> &all, const QList<Judgement> &judgements)
+{
+    for (const Judgement &judgement : judgements)
+        if (std::ranges::find(all, judgement.what, &Judgement::what) == all.end())
+            all.append(judgement);
 }
 
 QList<Judgement> RailScreen::judgements() const
 {
     QList<Judgement> all;
     for (const RailKind &kind : m_traits.kinds)
-        all += m_readings.value(kind.kind).panel.judgements;
+        addOnce(all, m_readings.value(kind.kind).judgements);
     return all;
 }
 
 void RailScreen::goTo(const QString &what)
 {
     for (const RailKind &kind : m_traits.kinds) {
-        const QList<Judgement> all = m_readings.value(kind.kind).panel.judgements;
+        const QList<Judgement> all = m_readings.value(kind.kind).judgements;
         if (std::ranges::find(all, what, &Judgement::what) != all.end())
             return chooseKind(kind.kind);
     }
@@ -114,18 +125,25 @@ void RailScreen::goTo(const QString &what)
 
 qsizetype RailScreen::faultsOf(const RailKind &kind) const
 {
-    return std::ranges::count(m_readings.value(kind.kind).panel.judgements, Verdict::Fail, &Judgement::verdict);
+    return std::ranges::count(m_readings.value(kind.kind).judgements, Verdict::Fail, &Judgement::verdict);
+}
+
+qsizetype RailScreen::hiddenFaultsOf(const RailKind &kind) const
+{
+    const QList<Judgement> &seen = m_front.panel.judgements;
+    return std::ranges::count_if(m_readings.value(kind.kind).judgements, [&seen](const Judgement &judgement) {
+        return judgement.verdict == Verdict::Fail &&
+               std::ranges::find(seen, judgement.what, &Judgement::what) == seen.end();
+    });
 }
 
 QString RailScreen::faultsElsewhere() const
 {
     QStringList texts;
-    for (const RailKind &kind : m_traits.kinds) {
-        const qsizetype faults = kind.kind == m_kind ? 0 : faultsOf(kind);
-        if (faults > 0)
+    for (const RailKind &kind : m_traits.kinds)
+        if (const qsizetype faults = hiddenFaultsOf(kind); faults > 0)
             texts.append(caption(kind.caption) + ": "_L1 + caption(u"%1 com falha").arg(faults));
-    }
-    return texts.join(u' ');
+    return texts.join(u"   "_s);
 }
 
 QString RailScreen::kindText(const RailKind &kind) const
@@ -135,24 +153,28 @@ QString RailScreen::kindText(const RailKind &kind) const
     return faults == 0 ? text : u"%1  ✗ %2"_s.arg(text).arg(faults);
 }
 
+Field RailScreen::readButton() const
+{
+    const QString text = isReading() ? caption(u"Processando comando") : caption(u"Executar Leitura") + "  F5"_L1;
+    return {.text = text, .enabled = !isReading()};
+}
+
 QMap<QString, Field> RailScreen::state() const
 {
-    const Field control{.enabled = !isReading()};
-    QMap<QString, Field> fields;
-    for (const auto &name : {u"Frame1"_s, u"ComboDecimais"_s, u"ComboDecimaisAmp"_s, u"Botao3"_s, u"Botao4"_s})
-        fields.insert(name, control);
+    const Field resting{.enabled = !isReading()};
+    QMap<QString, Field> fields{{u"ComboDecimais"_s, resting}, {u"ComboDecimaisAmp"_s, resting}};
+    for (const QLatin1StringView name : m_traits.restingControls)
+        fields.insert(name, resting);
     for (const RailKind &kind : m_traits.kinds) {
         const Field button{.text = kindText(kind), .enabled = !isReading(), .checked = m_kind == kind.kind};
         if (!kind.control.isEmpty())
             fields.insert(kind.control.toString(), button);
     }
+    fields[m_traits.readButton] = readButton();
     fields[u"FrameVCore"_s] = {.visible = isReading()};
     fields[u"Barra"_s] = {.value = m_progress};
-    fields[u"lbVar"_s] = m_readings.value(m_kind).panel.fields.value(u"lbVar"_s);
+    fields[u"lbVar"_s] = m_front.panel.fields.value(u"lbVar"_s);
     fields[u"lbVar"_s].fore = m_noteVisible ? Colour::Text : Colour::Face;
-    fields[u"OpMalha"_s] = {.checked = m_input.order == m_traits.malhaOrder || m_input.order == m_traits.loadOrder};
-    fields[u"OpIc"_s] = {.checked = m_input.order == m_traits.icOrder};
-    fields[u"OpPorc"_s] = {.checked = m_input.order == RailOrder::PorcDescending};
     fields[u"ComboDecimais"_s].text = QString::number(m_input.voltDecimals);
     fields[u"ComboDecimaisAmp"_s].text = QString::number(m_input.milliDecimals);
     return fields;
@@ -161,12 +183,6 @@ QMap<QString, Field> RailScreen::state() const
 void RailScreen::chooseKind(int kind)
 {
     m_kind = kind;
-    rebuild();
-}
-
-void RailScreen::sortBy(RailOrder order)
-{
-    m_input.order = order;
     rebuild();
 }
 
@@ -196,7 +212,7 @@ void RailScreen::ComboDecimaisAmp_Click(const QString &text)
 void RailScreen::keepDecimals(Combo which, const QString &text)
 {
     session().keep([which, text](Store &store) { return setCombo(store, which, text); });
-    storeReadings();
+    m_timerGrava.start();
 }
 
 void RailScreen::readingBegan()
@@ -220,7 +236,7 @@ void RailScreen::LimpaLeiturasExterno()
     loadRows();
 }
 
-void RailScreen::storeReadings()
+void RailScreen::TimerGrava_Timer()
 {
     if (!hasReading())
         return;
@@ -242,12 +258,12 @@ void RailScreen::TimerBarra_Timer()
         arrived += !label.isEmpty() && console.contains(label) ? 1 : 0;
     }
     m_progress = awaited == 0 ? 0 : static_cast<int>(100 * arrived / awaited);
-    show(m_readings[m_kind].panel, state());
+    showState();
 }
 
 void RailScreen::blinkNote()
 {
-    if (!m_shown)
+    if (!m_isVisible)
         return;
     m_noteVisible = true;
     m_blinks = 0;
@@ -260,20 +276,14 @@ void RailScreen::TimerIndicaVar_Timer()
     m_noteVisible = m_blinks >= kBlinks || !m_noteVisible;
     if (m_blinks >= kBlinks)
         m_timerIndicaVar.stop();
-    show(m_readings[m_kind].panel, state());
+    showState();
 }
 
 void RailScreen::setShown(bool shown)
 {
-    m_shown = shown;
+    m_isVisible = shown;
     if (shown || !m_timerIndicaVar.isActive())
         return;
     m_blinks = kBlinks;
     TimerIndicaVar_Timer();
-}
-
-void RailScreen::DBGrid1_Click()
-{
-    if (!hasReading())
-        session().boxes().message({{u"PRIMEIRO_LEITURA"_s}});
 }

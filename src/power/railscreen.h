@@ -5,8 +5,8 @@
 
 #include <QTimer>
 
-/// What the screens over the rails of the reference table share: rows by model and kind, the self-test reading,
-/// decimals, orders and the three recorded readings. All kinds are judged from one reply.
+/// What the screens over the rails of the reference table share: rows by model and kind, the self-test reading and the
+/// decimals. All kinds are judged from one reply.
 class RailScreen : public ReadingScreen
 {
     Q_OBJECT
@@ -20,31 +20,27 @@ public:
     void goTo(const QString &what) override;
 
     int kind() const { return m_kind; }
-    /// What a good verdict in front must not hide: the faults of the kinds that are not shown. Empty: there are none.
+    /// What a good verdict in front must not hide: the faults of what is not shown. Empty: there are none.
     QString faultsElsewhere() const;
     void chooseKind(int kind);
     /// Texts of `ComboDecimais` and `ComboDecimaisAmp`; others are not taken.
     void ComboDecimais_Click(const QString &text);
     void ComboDecimaisAmp_Click(const QString &text);
-    void OpMalha_Click() { sortBy(m_traits.malhaOrder); }
-    void OpIc_Click() { sortBy(m_traits.icOrder); }
-    void OpPorc_Click() { sortBy(RailOrder::PorcDescending); }
-    /// Records the reading into, or empties, slot 1, 2 or 3, after a question.
-    void btGravar_Click(int slot);
-    void btExcluir_Click(int slot);
-    /// The grid was activated: before any reading there is nothing to look at.
-    void DBGrid1_Click();
 
     /// Prepares a reading: gets the model first when it is not known.
     void PrePesquisa() { read(); }
     /// Sends the self-test command and waits for its reply.
     void ExecutaPesquisa() { send(); }
     /// The readings were cleared: the rows are shown afresh.
-    void LimpaLeiturasExterno();
+    virtual void LimpaLeiturasExterno();
 
 public slots:
+    /// Judges the reply that was delivered.
+    void Timer1_Timer() { judgeReply(); }
     void TimerBarra_Timer();
     void TimerIndicaVar_Timer();
+    /// Writes the readings to the store: what is on the screen is painted first.
+    void TimerGrava_Timer();
 
 protected:
     bool isPrepared() const override;
@@ -53,32 +49,39 @@ protected:
     void readingStopped() override;
     void rebuild() override;
 
+    const RailScreenTraits &traits() const { return m_traits; }
+    RailInput &input() { return m_input; }
+    const RailInput &input() const { return m_input; }
+    const RailReading &front() const { return m_front; }
+    void loadRows();
+    /// The state of the controls, on top of what the reading gave.
+    virtual QMap<QString, Field> state() const;
+    /// Shows the state anew; the reading stays.
+    void showState() { show(m_front.panel, state()); }
+
 private:
     void loadDecimals();
-    void loadRows();
     void loadKind(int kind);
     void rowsCame();
-    void sortBy(RailOrder order);
     bool setDecimals(int &decimals, int least, const QString &text);
     void keepDecimals(Combo which, const QString &text);
-    bool mayRecord();
-    void writeSlotAfter(const QString &title, const QString &question, int slot, const QList<SlotText> &texts);
-    QList<SlotText> shownReadings() const;
     void blinkNote();
-    void storeReadings();
     qsizetype faultsOf(const RailKind &kind) const;
+    qsizetype hiddenFaultsOf(const RailKind &kind) const;
     QString kindText(const RailKind &kind) const;
-    QMap<QString, Field> state() const;
+    Field readButton() const;
 
     const RailScreenTraits &m_traits;
     int m_kind;
     RailInput m_input;
     QMap<int, QList<RailRow>> m_rows; ///< by kind; a kind that is not there has not come from the store yet
     QMap<int, RailReading> m_readings;
-    bool m_shown = false;
+    RailReading m_front;
+    bool m_isVisible = false;
     bool m_noteVisible = true;
     int m_blinks = 0;
     int m_progress = 0;
     QTimer m_timerBarra;
     QTimer m_timerIndicaVar;
+    QTimer m_timerGrava;
 };

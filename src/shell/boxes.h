@@ -10,6 +10,7 @@ struct Question
 {
     enum class Choices
     {
+        Ok,
         YesNo,
         YesNoCancel
     };
@@ -21,6 +22,7 @@ struct Question
 
 enum class Answer
 {
+    Ok,
     Yes,
     No,
     Cancel
@@ -37,6 +39,9 @@ public:
     /// text are its arguments.
     virtual void message(const Trouble &trouble) = 0;
     virtual void ask(const Question &question, std::function<void(Answer)> answered) = 0;
+    /// Asks for a line of text, with a proposal; an empty answer is none.
+    virtual void input(const Question &question, const QString &proposal,
+                       std::function<void(const QString &)> answered) = 0;
 };
 
 /// How the program opens an address or a document.

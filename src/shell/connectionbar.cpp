@@ -91,7 +91,8 @@ ConnectionBar::ConnectionBar(Session &session, QWidget *parent)
     m_cbPortas->setEditable(true);
     m_cbPortas->setInsertPolicy(QComboBox::NoInsert);
     m_cbPortas->setItemDelegate(new PortDelegate(m_cbPortas));
-    m_cbPortas->setMinimumContentsLength(10);
+    m_cbPortas->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cbPortas->setMinimumContentsLength(4);
     m_cbPortas->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_cbPortas->setMaximumWidth(kPortWidth);
     m_comboBox->addItems({u"1"_s, u"2"_s});
@@ -184,6 +185,7 @@ void ConnectionBar::listPorts(const QList<PortEntry> &ports)
 
 void ConnectionBar::paintDevice()
 {
+    m_cbPortas->lineEdit()->setToolTip(port()); // a long one is cut in the field
     const int place = m_cbPortas->findText(port());
     const QString none = m_cbPortas->count() == 0 && port().isEmpty()
                              ? caption(u"Nenhuma porta encontrada", m_session.language())

@@ -1,6 +1,23 @@
 #include "formtable.h"
 
+#include "acorn.h"
+#include "bateria.h"
 #include "buckldo.h"
+#include "buckteste.h"
+#include "chestnut.h"
+#include "displays.h"
+#include "i2c.h"
+#include "ic.h"
+#include "master.h"
+#include "nand.h"
+#include "outros.h"
+#include "pmu.h"
+#include "rfs.h"
+#include "rfs_esq.h"
+#include "tigris.h"
+#include "tristar.h"
+#include "vcores.h"
+#include "zajustes.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +39,15 @@ struct FormEntry
 };
 
 constexpr std::array kForms = {
-    FormEntry{"BuckLdo"_L1, make<BuckLdo>},
+    FormEntry{"BuckLdo"_L1, make<BuckLdo>}, FormEntry{"VCores"_L1, make<VCores>},
+    FormEntry{"PMU"_L1, make<PMU>},         FormEntry{"BuckTeste"_L1, make<BuckTeste>},
+    FormEntry{"Tristar"_L1, make<Tristar>}, FormEntry{"Tigris"_L1, make<Tigris>},
+    FormEntry{"Acorn"_L1, make<Acorn>},     FormEntry{"Chestnut"_L1, make<Chestnut>},
+    FormEntry{"Bateria"_L1, make<Bateria>}, FormEntry{"IC"_L1, make<IC>},
+    FormEntry{"Master"_L1, make<Master>},   FormEntry{"zAjustes"_L1, make<zAjustes>},
+    FormEntry{"I2C"_L1, make<I2C>},         FormEntry{"Displays"_L1, make<Displays>},
+    FormEntry{"RFs"_L1, make<RFs>},         FormEntry{"RFs_Esq"_L1, make<RFs_Esq>},
+    FormEntry{"Nand"_L1, make<Nand>},       FormEntry{"Outros"_L1, make<Outros>},
 };
 
 } // namespace

@@ -24,7 +24,7 @@ void ImportOffer::take(ImportStep step, Occasion occasion)
     if (step == ImportStep::Ask)
         ask();
     else if (occasion == Occasion::AboutBox)
-        m_session.refuse({u"STORE_MISSING"_s, {userStore()}});
+        m_session.refuse({u"IMPORT_NOTHING"_s, {userStore()}});
 }
 
 void ImportOffer::ask()

@@ -10,6 +10,7 @@
 #include "reconnector.h"
 #include "screentabs.h"
 #include "sobre.h"
+#include "termsbanner.h"
 #include "xidioma.h"
 
 #include <QApplication>
@@ -35,12 +36,13 @@ static constexpr int kLogShare = 220;
 Inicial::Inicial(const WindowParts &parts, QWidget *parent)
     : QMainWindow(parent),
       m_session(parts.session),
+      m_log(parts.log),
       m_ports(parts.ports),
       m_connectionBar(new ConnectionBar(parts.session)),
       m_rail(new ModuleRail),
+      m_terms(new TermsBanner(parts.session)),
       m_tabs(new ScreenTabs(parts.session)),
       m_splitter(new QSplitter(Qt::Vertical)),
-      m_drawer(new ExchangeDrawer(parts.log)),
       m_btLog(new QToolButton),
       m_btReconectar(new QToolButton),
       m_reconnector(new Reconnector(parts.session, this)),
@@ -79,10 +81,12 @@ QWidget *Inicial::topRow()
     row->setContentsMargins(0, 0, Spacing::group, 0);
     row->setSpacing(Spacing::control);
     m_menuButton->setObjectName(u"btMenu"_s);
+    m_menuButton->setIcon(lineIcon(u"menu"));
     m_menuButton->setProperty("flat", true);
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_menu);
     m_findingsButton->setObjectName(u"btAchados"_s);
+    m_findingsButton->setIcon(switchIcon(u"findings"));
     m_findingsButton->setCheckable(true);
     m_findingsButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (QToolButton *button : {m_findingsButton, m_menuButton})
@@ -106,16 +110,14 @@ QWidget *Inicial::content()
     m_middle->setContentsMargins(0, 0, 0, 0);
     auto *middle = new QWidget;
     middle->setLayout(m_middle);
-    m_drawer->hide();
     m_splitter->addWidget(middle);
-    m_splitter->addWidget(m_drawer);
     m_splitter->setCollapsible(0, false);
-    m_splitter->setSizes({kScreenShare, kLogShare});
     auto *frame = new QWidget;
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(topRow());
+    layout->addWidget(m_terms);
     layout->addWidget(m_splitter, 1);
     return frame;
 }
@@ -134,6 +136,7 @@ void Inicial::fillStatusBar()
     m_btReconectar->setObjectName(u"btReconectar"_s);
     m_btReconectar->hide();
     m_btLog->setObjectName(u"btLog"_s);
+    m_btLog->setIcon(switchIcon(u"log"));
     m_btLog->setCheckable(true);
     m_btLog->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     statusBar()->addPermanentWidget(m_progress);
@@ -164,6 +167,7 @@ void Inicial::connectWindow()
 {
     connect(m_connectionBar, &ConnectionBar::portsWanted, this, &Inicial::listPorts);
     connect(m_connectionBar, &ConnectionBar::connectPressed, this, [this] { Botoes_Click(1); });
+    connect(m_terms, &TermsBanner::declined, this, &Inicial::close);
     m_rail->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_rail, &ModuleRail::customContextMenuRequested, this,
             [this](const QPoint &place) { m_menu->popup(m_rail->mapToGlobal(place)); });
@@ -175,11 +179,8 @@ void Inicial::connectWindow()
     connect(m_findings, &FindingsPanel::findingChosen, m_tabs, &ScreenTabs::goTo);
     connect(m_btLog, &QToolButton::toggled, this, &Inicial::showLog);
     connect(new QShortcut(Qt::Key_F12, this), &QShortcut::activated, m_btLog, &QToolButton::click);
-    connect(m_drawer, &ExchangeDrawer::saveFailed, this,
-            [this](const Trouble &trouble) { m_session.boxes().message(trouble); });
     connect(m_findingsButton, &QToolButton::toggled, this, [this](bool opened) {
         m_findingsOpened = opened;
-        m_findingsButton->setIcon(lineIcon(u"findings", opened ? currentTheme().onAccent : currentTheme().text));
         foldFindings();
     });
 }
@@ -216,8 +217,26 @@ void Inicial::connectReconnector()
 void Inicial::showLog(bool open)
 {
     m_btLog->setChecked(open);
-    m_btLog->setIcon(lineIcon(u"log", open ? currentTheme().onAccent : currentTheme().text));
-    m_drawer->setVisible(open);
+    if (open && !m_drawer)
+        addDrawer();
+    if (m_drawer)
+        m_drawer->setVisible(open);
+}
+
+/// Made when it is first wanted: most days nobody looks at it, and the start does not wait for it.
+void Inicial::addDrawer()
+{
+    m_drawer = new ExchangeDrawer(m_log);
+    m_drawer->Traducao_Form(m_session.language());
+    connect(m_drawer, &ExchangeDrawer::saveFailed, this,
+            [this](const Trouble &trouble) { m_session.boxes().message(trouble); });
+    m_splitter->addWidget(m_drawer);
+    m_splitter->setSizes({kScreenShare, kLogShare});
+}
+
+void Inicial::askForTerms()
+{
+    m_terms->showUnlessAccepted();
 }
 
 void Inicial::openScreen(const QString &name)
@@ -233,7 +252,7 @@ void Inicial::readScreen(const QString &name)
 
 void Inicial::connectForm(ScreenForm *form)
 {
-    connect(&form->screen(), &Screen::screenRequested, m_tabs, &ScreenTabs::open);
+    connect(&form->screen(), &Screen::screenRequested, m_tabs, &ScreenTabs::goTo);
     connect(&form->screen(), &Screen::judged, this, [this, form] { m_findings->add(form->screen().judgements()); });
     connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
     connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
@@ -374,23 +393,22 @@ void Inicial::buildMenu()
 
 void Inicial::retheme(ThemeChoice choice)
 {
-    applyTheme(*qApp, choice);
-    emit m_session.languageChanged(); // icons and colours are made anew with the captions
+    applyTheme(choice);
+    applyStyleSheet(*qApp);
+    m_tabs->paintAgain();
 }
 
 void Inicial::Traducao_Form_Inicial()
 {
     m_connectionBar->Traducao_Form();
+    m_terms->Traducao_Form();
     m_findings->Traducao_Form(m_session.language());
-    const Theme &theme = currentTheme();
-    m_findingsButton->setIcon(lineIcon(u"findings", m_findingsOpened ? theme.onAccent : theme.text));
-    m_menuButton->setIcon(lineIcon(u"menu"));
     m_menuButton->setToolTip(text(u"Ferramentas"));
     m_menuButton->setAccessibleName(text(u"Ferramentas"));
-    m_drawer->Traducao_Form(m_session.language());
+    if (m_drawer)
+        m_drawer->Traducao_Form(m_session.language());
     m_btReconectar->setText(text(u"Reconectar"));
     m_btLog->setText(text(u"Registro da comunicação"));
-    showLog(m_btLog->isChecked());
     m_btLog->setToolTip(text(u"Registro da comunicação") + "  (F12)"_L1);
     m_emptyHint->setText(text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));
     buildMenu();

@@ -23,6 +23,7 @@ class QToolButton;
 class Reconnector;
 class ScreenForm;
 class ScreenTabs;
+class TermsBanner;
 
 /// What the window works with.
 struct WindowParts
@@ -52,6 +53,8 @@ public:
     /// One line at the bottom: what was refused or ignored, and why.
     void showNotice(const Trouble &trouble);
     void Traducao_Form_Inicial();
+    /// Shows the terms until they are accepted.
+    void askForTerms();
     /// Opens or folds the exchange log.
     void showLog(bool open);
 
@@ -73,6 +76,7 @@ private:
     void connectWindow();
     void connectReconnector();
     void openAbout();
+    void addDrawer();
     void buildMenu();
     void connectForm(ScreenForm *form);
     void listPorts();
@@ -88,12 +92,14 @@ private:
     QString text(QStringView key) const;
 
     Session &m_session;
+    ExchangeLog &m_log;
     std::function<QList<PortEntry>()> m_ports;
     ConnectionBar *m_connectionBar;
     ModuleRail *m_rail;
+    TermsBanner *m_terms;
     ScreenTabs *m_tabs;
     QSplitter *m_splitter;
-    ExchangeDrawer *m_drawer;
+    ExchangeDrawer *m_drawer = nullptr;
     QToolButton *m_btLog;
     QToolButton *m_btReconectar;
     Reconnector *m_reconnector;

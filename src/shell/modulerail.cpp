@@ -2,7 +2,6 @@
 
 #include "catalogue.h"
 #include "icons.h"
-#include "models.h"
 #include "railbutton.h"
 #include "theme.h"
 
@@ -62,18 +61,13 @@ RailButton *ModuleRail::addButton(const Module &module)
 {
     auto *button = new RailButton(shortKey(QString(module.shortcut)));
     button->setObjectName(buttonName(module));
+    button->setIcon(switchIcon(QString(module.icon)));
     const QString name = module.name;
     connect(button, &RailButton::clicked, this, [this, name] { emit screenPressed(name); });
     auto *shortcut = new QShortcut(QKeySequence(QString(module.shortcut)), this);
     connect(shortcut, &QShortcut::activated, this, [this, name] { emit screenPressed(name); });
     m_buttons.insert(name, button);
     return button;
-}
-
-/// The screen of the port controller is called by the chip that the model has.
-static QStringView captionKey(const Module &module, const QString &model)
-{
-    return module.name == "Tristar"_L1 && isNewestGeneration(model) ? QStringView(u"Hydra") : module.caption;
 }
 
 void ModuleRail::Traducao_Form(Language language, const QString &model)
@@ -86,7 +80,6 @@ void ModuleRail::Traducao_Form(Language language, const QString &model)
         button->setAccessibleName(text);
         m_headings.value(static_cast<int>(module.group))->setText(caption(groupCaption(module.group), language));
     }
-    paintIcons();
     setFixedWidth(widget()->sizeHint().width());
 }
 
@@ -94,14 +87,4 @@ void ModuleRail::mark(const QString &screen)
 {
     for (const auto &[name, button] : m_buttons.asKeyValueRange())
         button->setChecked(name == screen);
-    paintIcons();
-}
-
-void ModuleRail::paintIcons()
-{
-    const Theme &theme = currentTheme();
-    for (const Module &module : modules()) {
-        RailButton *button = m_buttons.value(module.name);
-        button->setIcon(lineIcon(QString(module.icon), button->isChecked() ? theme.onAccent : theme.text));
-    }
 }

@@ -27,7 +27,6 @@ signals:
 private:
     RailButton *addButton(const Module &module);
     void addKeyHint(QLabel &heading);
-    void paintIcons();
 
     QHash<QString, RailButton *> m_buttons;
     QHash<int, QLabel *> m_headings;

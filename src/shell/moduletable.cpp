@@ -1,5 +1,7 @@
 #include "moduletable.h"
 
+#include "models.h"
+
 #include <algorithm>
 #include <array>
 
@@ -18,6 +20,7 @@ static constexpr std::array kModules = {
     Module{"IC"_L1, u"IC", "ic"_L1, "ic"_L1, ModuleGroup::Chips, 8, "Ctrl+0"_L1},
     Module{"I2C"_L1, u"I2C", "i2c"_L1, "i2c"_L1, ModuleGroup::Tests, 9, "Ctrl+Shift+1"_L1},
     Module{"RFs"_L1, u"RF", "rf"_L1, "rf"_L1, ModuleGroup::Tests, 5, "Ctrl+Shift+2"_L1},
+    Module{"RFs_Esq"_L1, u"TensoesRF", "rf"_L1, {}, ModuleGroup::Tests, 0, "Ctrl+Shift+8"_L1},
     Module{"Nand"_L1, u"NAND", "nand"_L1, "nand"_L1, ModuleGroup::Tests, 7, "Ctrl+Shift+3"_L1},
     Module{"Displays"_L1, u"Display", "display"_L1, "display"_L1, ModuleGroup::Tests, 6, "Ctrl+Shift+4"_L1},
     Module{"Outros"_L1, u"Testes Adicionais", "memory"_L1, "memory"_L1, ModuleGroup::Tests, 17, "Ctrl+Shift+5"_L1},
@@ -50,6 +53,11 @@ const Module *moduleOfCommand(QStringView command)
 const Module *moduleOfButton(int botao)
 {
     return botao == 0 ? nullptr : moduleWhere(botao, &Module::botao);
+}
+
+QStringView captionKey(const Module &module, const QString &model)
+{
+    return module.name == "Tristar"_L1 && isNewestGeneration(model) ? QStringView(u"Hydra") : module.caption;
 }
 
 QStringView groupCaption(ModuleGroup group)

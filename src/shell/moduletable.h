@@ -31,5 +31,7 @@ std::span<const Module> modules();
 const Module *moduleNamed(QStringView name);
 const Module *moduleOfCommand(QStringView command);
 const Module *moduleOfButton(int botao);
+/// The caption key of a screen: that of the port controller is called by the chip that the model has.
+QStringView captionKey(const Module &module, const QString &model);
 /// The caption key of a group.
 QStringView groupCaption(ModuleGroup group);

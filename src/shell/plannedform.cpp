@@ -30,7 +30,7 @@ PlannedForm::PlannedForm(const Module &module, Session &session, QWidget *parent
 
 void PlannedForm::Traducao_Form()
 {
-    m_picture->setPixmap(lineIcon(QString(m_module.icon), currentTheme().dim).pixmap(48));
+    m_picture->setPixmap(lineIcon(QString(m_module.icon), &Theme::dim).pixmap(48));
     m_title->setText(caption(m_module.caption, m_session.language()));
     m_note->setText(caption(u"Ainda não disponível nesta versão", m_session.language()));
 }

@@ -39,7 +39,8 @@ void RailButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     style()->drawComplexControl(QStyle::CC_ToolButton, &option, &painter, this);
     const Theme &theme = currentTheme();
-    icon().paint(&painter, QRect(Spacing::control, 0, kIcon, height()), Qt::AlignCenter);
+    icon().paint(&painter, QRect(Spacing::control, 0, kIcon, height()), Qt::AlignCenter, QIcon::Normal,
+                 isChecked() ? QIcon::On : QIcon::Off);
     const bool fits = QFontMetrics(textFont()).horizontalAdvance(text()) <= kCaption;
     painter.setFont(textFont(fits ? TextSize::Normal : TextSize::Small));
     painter.setPen(isChecked() ? theme.onAccent : theme.text);

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "recordings.h"
+
 #include <QString>
+
+#include <optional>
 
 /// A finished reply on its way to the screen that asked.
 struct Delivery
 {
     QString command;
-    QString reply;    ///< as the console shows it; empty when not one byte came
-    bool cut = false; ///< the phone's prompt never came: it must not be judged good
+    QString reply;        ///< as the console shows it; empty when not one byte came
+    bool cut = false;     ///< not the whole reply, or the phone's prompt never came: it must not be judged good
+    bool isBound = false; ///< for screens that show recordings: the one of this model and command was looked for
+    std::optional<KeptRecording> recording = {};
 };
 
 /// Why a waiting screen gets its reply no more.

@@ -75,8 +75,15 @@ void ScreenTabs::add(const QString &name)
 void ScreenTabs::goTo(const QString &screen, const QString &what)
 {
     open(screen);
-    if (ScreenForm *opened = form(screen))
+    if (ScreenForm *opened = what.isEmpty() ? nullptr : form(screen))
         opened->goTo(what);
+}
+
+void ScreenTabs::paintAgain()
+{
+    for (const QString &name : names())
+        if (ScreenForm *opened = form(name))
+            opened->paintAgain();
 }
 
 void ScreenTabs::close(int index)
@@ -93,7 +100,7 @@ void ScreenTabs::Traducao_Form()
 {
     for (int i = 0; i < count(); ++i) {
         const Module *module = moduleNamed(widget(i)->objectName());
-        setTabText(i, plainText(caption(module->caption, m_session.language())));
+        setTabText(i, plainText(caption(captionKey(*module, m_session.model()), m_session.language())));
         setTabToolTip(i, caption(u"Fechar aba", m_session.language()) + "  (Ctrl+W)"_L1);
         setTabIcon(i, lineIcon(QString(module->icon)));
     }

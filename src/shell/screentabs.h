@@ -25,6 +25,8 @@ public:
     QString frontName() const;
     void close(int index);
     void Traducao_Form();
+    /// The theme is another.
+    void paintAgain();
 
 signals:
     void formOpened(ScreenForm *form);

@@ -1,15 +1,20 @@
 #include "session.h"
 
 #include "catalogue.h"
+#include "commandguard.h"
 #include "railrows.h"
 #include "replycodes.h"
 #include "settings.h"
+
+#include <QUrl>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 static constexpr auto kHelpVideo = "help-video"_L1;
+/// What the console keeps of one reply, its beginning; the exchange log has all of it.
+static constexpr qsizetype kMostConsole = 12 << 20;
 
 Session::Session(SessionParts parts, QObject *parent)
     : QObject(parent),
@@ -65,6 +70,7 @@ void Session::adopt(const QString &device, const QString &model)
 {
     if (!m_parts.port.open(device))
         return;
+    m_isSavedReply = true;
     m_accepted = true;
     enter(u'1', u"Conectado"_s);
     setModel(model, true);
@@ -135,6 +141,12 @@ void Session::offerHelpVideo()
     });
 }
 
+void Session::openDocument(const QString &path)
+{
+    if (m_parts.open)
+        m_parts.open(QUrl::fromLocalFile(path).toString());
+}
+
 void Session::openPort(const PortAddress &address)
 {
     const Result<QString> device = m_parts.deviceFor(address);
@@ -184,7 +196,7 @@ void Session::enter(QChar status, const QString &st1)
 
 bool Session::isInFlight() const
 {
-    return m_timer1.isActive() || m_timer2.isActive();
+    return m_timer1.isActive() || m_timer2.isActive() || m_fetching;
 }
 
 void Session::chooseLanguage(Language chosen)
@@ -220,17 +232,48 @@ void Session::detach(const Receiver *receiver)
     m_receivers.removeIf([receiver](const auto &entry) { return entry.value() == receiver; });
 }
 
-bool Session::maySend()
+bool Session::maySend(const QString &command)
 {
-    if (isReady())
-        return true;
-    refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
-    return false;
+    if (!leavesPhoneAsItIs(command)) {
+        m_parts.boxes.message({{u"MSG_SYSCFG"_s}});
+        return false;
+    }
+    if (!isReady())
+        refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
+    return isReady();
+}
+
+bool Session::requestInstead(const QString &code, const QString &command)
+{
+    if (isInFlight() && m_code == code && leavesPhoneAsItIs(command)) {
+        stopPolling();
+        enter(u'1', m_st1);
+    }
+    return request(code, command);
+}
+
+void Session::stop(const QString &code)
+{
+    if (!isInFlight() || m_fetching || m_code != code)
+        return;
+    if (m_timer1.isActive())
+        startConsole();
+    stopPolling();
+    AdicionaDadosConsole(QString::fromLatin1(m_parts.port.read()));
+    m_cut = true;
+    BuscaDadosGravados();
+}
+
+void Session::stopPolling()
+{
+    m_timer1.stop();
+    m_timer2.stop();
+    m_fetching.reset();
 }
 
 bool Session::request(const QString &code, const QString &command)
 {
-    if (!maySend())
+    if (!maySend(command))
         return false;
     m_code = code;
     m_txtComandos = command;
@@ -255,8 +298,11 @@ void Session::EnviaComando()
 void Session::AdicionaDadosConsole(const QString &chunk)
 {
     m_anyByte = m_anyByte || !chunk.isEmpty();
-    m_txtConsole += QString(chunk).replace("\n"_L1, "\r\n"_L1);
-    emit consoleChanged();
+    const QString text = QString(chunk).replace("\n"_L1, "\r\n"_L1);
+    const qsizetype room = kMostConsole - m_txtConsole.size();
+    m_cut = m_cut || text.size() > room;
+    m_txtConsole += QStringView(text).first(std::min(room, text.size()));
+    emit consoleAppended(text);
 }
 
 EndOfReply Session::endOfReply() const
@@ -271,6 +317,7 @@ void Session::startConsole()
 {
     m_timer1.stop();
     m_anyByte = false;
+    m_cut = false;
     m_txtConsole = u"\r\n"_s;
 }
 
@@ -301,12 +348,41 @@ void Session::advance(const Gathering &next)
 Delivery Session::delivery() const
 {
     const QString reply = m_anyByte ? replyForCode(m_code, m_txtConsole, m_txtComandos) : QString();
-    return {m_txtComandos, reply, !m_txtConsole.contains(QLatin1StringView(kPrompt))};
+    return {m_txtComandos, reply, m_cut || !m_txtConsole.contains(QLatin1StringView(kPrompt))};
 }
 
 void Session::BuscaDadosGravados()
 {
-    const Delivery finished = delivery();
+    const ReplyCode *row = replyCode(m_code);
+    if (row && row->rebindsRecordings)
+        fetchRecording();
+    else
+        deliver(delivery());
+}
+
+/// A store that is busy keeps the command in flight. One that fails is told, and the reply comes without a recording.
+void Session::fetchRecording()
+{
+    using Row = std::optional<KeptRecording>;
+    m_fetching = std::make_unique<QObject>();
+    const RecordingKey key{knownModel(), m_txtComandos};
+    m_parts.store.run<Row>(
+        Store::Access::Read, [key](Store &store) { return recordingFor(store, key.model, key.command); },
+        m_fetching.get(),
+        [this](const Result<Row> &row) {
+            Delivery finished = delivery();
+            m_fetching.reset();
+            finished.isBound = bool(row);
+            if (row)
+                finished.recording = *row;
+            else
+                emit storeFailed(row.trouble());
+            deliver(finished);
+        });
+}
+
+void Session::deliver(const Delivery &finished)
+{
     const QString code = std::exchange(m_code, kMainWindowCode);
     enter(u'1', m_accepted ? u"Conectado"_s : m_st1);
     if (Receiver *receiver = m_receivers.value(code))
@@ -319,8 +395,7 @@ void Session::leaveLink(Release why)
     Delivery partial = inFlight ? delivery() : Delivery{};
     partial.cut = true; // even with a prompt in it: the line died before the reply was done
     const QString code = std::exchange(m_code, kMainWindowCode);
-    m_timer1.stop();
-    m_timer2.stop();
+    stopPolling();
     showDisconnected();
     Receiver *waiting = takeOrigin();
     if (waiting)

@@ -14,6 +14,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 /// Finds the device behind what a person chose as port: a number, a path, a simulated phone.
 using DeviceResolver = std::function<Result<QString>(const PortAddress &)>;
@@ -78,6 +79,8 @@ public:
     /// The chosen model: detected, picked, or only pre-selected from the last time.
     QString model() const { return m_model; }
     bool isModelKnown() const { return m_modelKnown; }
+    /// The model of the phone, or empty while it is only pre-selected: nothing is compared with another phone's data.
+    QString knownModel() const { return m_modelKnown ? m_model : QString(); }
     /// The detected model as shown; an unknown record stands between asterisks.
     QString lbModelo() const { return m_lbModelo; }
 
@@ -92,6 +95,8 @@ public:
     void load();
     /// Takes a link that needs no handshake, its model being known: a saved reply.
     void adopt(const QString &device, const QString &model);
+    /// No phone is there: whatever is sent, the saved reply is the answer.
+    bool isSavedReply() const { return m_isSavedReply; }
 
     /// The connect button with the text of the port list.
     void connectOrDisconnect(const QString &port);
@@ -103,12 +108,18 @@ public:
     void attach(const QString &code, Receiver *receiver) { m_receivers.insert(code, receiver); }
     void detach(const Receiver *receiver);
 
-    /// Sends a screen's command under its code. False, with a reason in `refused`, when it may not be sent now.
+    /// Sends a screen's command under its code. False, with a reason in `refused` or in a box, when it may not be sent.
     bool request(const QString &code, const QString &command);
+    /// The same in place of the command of this code that may be in flight: nothing of that one is delivered.
+    bool requestInstead(const QString &code, const QString &command);
+    /// Ends the gathering for a screen: what came is delivered as a cut reply, the rest is dropped by the next command.
+    void stop(const QString &code);
     /// Asks the phone for its model first; the screen of this code is resumed when it is known.
     bool requestModel(const QString &code);
     /// Tells why something that was asked for was not done; no box opens for it.
     void refuse(const Notice &why) { emit refused(why); }
+    /// Opens a document with the system's viewer.
+    void openDocument(const QString &path);
 
     /// Runs work on the store; a failure goes to `storeFailed`, and `done` then is not called.
     template <typename T>
@@ -144,7 +155,8 @@ signals:
     void readingsCleared();
     void languageChanged();
     void speedChanged();
-    void consoleChanged();
+    /// What the console grew by; in a flood more than it keeps.
+    void consoleAppended(const QString &text);
     void portsWanted();
     void portOpened(const QString &device);
     void connectionSettled(); ///< the handshake was accepted and the model is known or cannot be told
@@ -164,8 +176,11 @@ private:
     bool isInFlight() const;
     bool isAskingModel() const;
     void applySpeed(const QString &chosen);
-    bool maySend();
+    bool maySend(const QString &command);
     void startConsole();
+    void stopPolling();
+    void fetchRecording();
+    void deliver(const Delivery &finished);
     void advance(const Gathering &next);
     EndOfReply endOfReply() const;
     Delivery delivery() const;
@@ -177,6 +192,8 @@ private:
     void sendModelQuery(QTimer &watch);
     void readModelRecord();
     void watchModelReply();
+    void hintAtCommand();
+    void tellModelMissing();
     void settleWithoutRecord();
     bool takeModelReply(const ModelReply &reply);
     void identify(const QString &model);
@@ -200,6 +217,7 @@ private:
     QChar m_status = u'0';
     QString m_st1;
     bool m_accepted = false;
+    bool m_isSavedReply = false;
     int m_handshakeTicks = 0;
 
     QString m_txtComandos;
@@ -207,6 +225,8 @@ private:
     QString m_code;
     Gathering m_gathering;
     bool m_anyByte = false;
+    bool m_cut = false;                  ///< stopped, or longer than the console keeps
+    std::unique_ptr<QObject> m_fetching; ///< while a gathered reply waits for its recording
     Speed m_speed;
     QString m_speedSetting;
     QMap<QString, Receiver *> m_receivers;
@@ -217,6 +237,7 @@ private:
     QString m_origin; ///< code of the screen that waits for the model
     int m_modelTicks = 0;
     bool m_mayRepeatQuery = false;
+    bool m_mayHint = false; ///< the repeated query has not been answered yet
 
     Language m_language = Language::Portuguese;
 };

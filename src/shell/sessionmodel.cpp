@@ -2,6 +2,7 @@
 
 #include "session.h"
 
+#include "catalogue.h"
 #include "railrows.h"
 #include "replycodes.h"
 #include "settings.h"
@@ -50,6 +51,7 @@ void Session::readModelRecord()
     if (reply.kind == ModelReply::Kind::NoRecord)
         return settleWithoutRecord();
     m_mayRepeatQuery = true;
+    m_mayHint = true;
     m_modelTicks = 0;
     if (m_modelKnown) // picked by hand meanwhile: the query is not repeated, its reply is only watched
         m_timerVersao.start();
@@ -70,11 +72,12 @@ void Session::sendModelQuery(QTimer &watch)
 
 bool Session::requestModel(const QString &code)
 {
-    if (!maySend())
+    if (!maySend(kModelQuery))
         return false;
     m_origin = code;
     m_modelTicks = 0;
     m_mayRepeatQuery = false;
+    m_mayHint = true;
     sendModelQuery(m_timerVersao);
     return isInFlight();
 }
@@ -101,6 +104,7 @@ void Session::watchModelReply()
     if (m_modelKnown && !m_origin.isEmpty()) // picked by hand while the query was on its way
         return resumeOrigin();
     ++m_modelTicks;
+    hintAtCommand();
     if (takeModelReply(modelReply(m_txtConsole)))
         return;
     if (m_txtConsole.contains("Not Found"_L1))
@@ -116,11 +120,25 @@ void Session::watchModelReply()
     settleWithoutRecord();
 }
 
+/// A phone whose shell does not know the query even when it is asked again often does the next time.
+void Session::hintAtCommand()
+{
+    if (std::exchange(m_mayHint, false) && !m_modelKnown && m_txtConsole.contains("Command"_L1))
+        AdicionaDadosConsole(caption(u"Msg_Command", m_language));
+}
+
+void Session::tellModelMissing()
+{
+    emit modelMissing();
+    if (m_txtConsole.contains("Command"_L1))
+        refuse({u"MODEL_QUERY_UNKNOWN"_s});
+}
+
 /// A model that was picked by hand stands; without one the technician is to choose.
 void Session::settleWithoutRecord()
 {
     if (!m_modelKnown)
-        emit modelMissing();
+        tellModelMissing();
     emit connectionSettled();
 }
 
@@ -178,7 +196,7 @@ void Session::giveUpModel(const QString &shown)
     m_parts.boxes.message({{u"MSG_ERRO_NAND"_s}});
     m_parts.boxes.message({{u"MSG_SELECIONE_MODELO"_s}});
     emit modelChanged();
-    emit modelMissing();
+    tellModelMissing();
     emit connectionSettled();
     if (waiting)
         waiting->release(Release::ModelUnknown, {{}, {}, true});

@@ -35,7 +35,7 @@ Sobre::Sobre(Language language, const QString &storePath, QWidget *parent) : QDi
     layout->addWidget(picture);
     layout->addWidget(title);
     layout->addWidget(new QLabel(text(u"Versão") + " 2.22"_L1));
-    for (const QStringView key : {u"SOBRE_FINALIDADE", u"SOBRE_REFERENCIAS", u"SOBRE_LICENCA"})
+    for (const QStringView key : {u"SOBRE_FINALIDADE", u"SOBRE_REFERENCIAS", u"TERMOS", u"SOBRE_LICENCA"})
         layout->addWidget(paragraph(text(key)));
     layout->addWidget(paragraph(text(u"Dados") + ": "_L1 + storePath));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);

@@ -4,6 +4,7 @@
 #include "icons.h"
 #include "theme.h"
 
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -15,7 +16,7 @@ static QPixmap boxPicture(MessageIcon icon)
 {
     static constexpr int kSide = 32;
     static constexpr QStringView kPictures[] = {u"", u"about", u"warning", u"help"};
-    return lineIcon(kPictures[static_cast<std::size_t>(icon)], currentTheme().accent).pixmap(kSide);
+    return lineIcon(kPictures[static_cast<std::size_t>(icon)], &Theme::accent).pixmap(kSide);
 }
 
 static Message boxMessage(const Notice &notice, Language language)
@@ -43,28 +44,74 @@ void WindowBoxes::message(const Trouble &trouble)
     add([this, trouble] { return messageBox(trouble); });
 }
 
-static Answer answerOf(QMessageBox::StandardButton button)
+namespace {
+
+struct AnswerButton
 {
-    if (button == QMessageBox::Yes)
-        return Answer::Yes;
-    return button == QMessageBox::No ? Answer::No : Answer::Cancel;
+    QMessageBox::StandardButton button;
+    Answer answer;
+    QStringView key; ///< of its caption; empty: as the system words it
+};
+
+constexpr AnswerButton kAnswers[] = {{QMessageBox::Ok, Answer::Ok, u""},
+                                     {QMessageBox::Yes, Answer::Yes, u"Sim"},
+                                     {QMessageBox::No, Answer::No, u"Não"},
+                                     {QMessageBox::Cancel, Answer::Cancel, u"Cancelar"}};
+
+QMessageBox::StandardButtons buttonsOf(Question::Choices choices)
+{
+    using enum Question::Choices;
+    const QMessageBox::StandardButtons yesNo = QMessageBox::Yes | QMessageBox::No;
+    if (choices == Ok)
+        return QMessageBox::Ok;
+    return choices == YesNo ? yesNo : yesNo | QMessageBox::Cancel;
+}
+
+Answer answerOf(QMessageBox::StandardButton button)
+{
+    for (const AnswerButton &row : kAnswers)
+        if (row.button == button)
+            return row.answer;
+    return Answer::Cancel;
+}
+
+} // namespace
+
+QMessageBox *WindowBoxes::questionBox(const Question &question) const
+{
+    const bool asks = question.choices != Question::Choices::Ok;
+    auto *box =
+        new QMessageBox(QMessageBox::NoIcon, question.title, question.text, buttonsOf(question.choices), m_parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setIconPixmap(boxPicture(asks ? MessageIcon::Question : MessageIcon::Information));
+    for (const AnswerButton &row : kAnswers)
+        if (QAbstractButton *button = box->button(row.button); button && !row.key.isEmpty())
+            button->setText(caption(row.key, m_language()));
+    return box;
 }
 
 void WindowBoxes::ask(const Question &question, std::function<void(Answer)> answered)
 {
     add([this, question, answered = std::move(answered)] {
-        const bool cancel = question.choices == Question::Choices::YesNoCancel;
-        const auto buttons =
-            QMessageBox::Yes | QMessageBox::No | (cancel ? QMessageBox::Cancel : QMessageBox::NoButton);
-        auto *box = new QMessageBox(QMessageBox::NoIcon, question.title, question.text, buttons, m_parent);
-        box->setTextFormat(Qt::PlainText);
-        box->setIconPixmap(boxPicture(MessageIcon::Question));
-        box->button(QMessageBox::Yes)->setText(caption(u"Sim", m_language()));
-        box->button(QMessageBox::No)->setText(caption(u"Não", m_language()));
-        if (cancel)
-            box->button(QMessageBox::Cancel)->setText(caption(u"Cancelar", m_language()));
+        QMessageBox *box = questionBox(question);
         QObject::connect(box, &QMessageBox::finished, box,
                          [box, answered] { answered(answerOf(box->standardButton(box->clickedButton()))); });
+        return box;
+    });
+}
+
+void WindowBoxes::input(const Question &question, const QString &proposal,
+                        std::function<void(const QString &)> answered)
+{
+    add([this, question, proposal, answered = std::move(answered)] {
+        auto *box = new QInputDialog(m_parent);
+        box->setWindowTitle(question.title);
+        box->setLabelText(question.text);
+        box->setTextValue(proposal);
+        box->setCancelButtonText(caption(u"Cancelar", m_language()));
+        QObject::connect(box, &QInputDialog::finished, box, [box, answered](int result) {
+            answered(result == QDialog::Accepted ? box->textValue() : QString());
+        });
         return box;
     });
 }
@@ -82,9 +129,9 @@ void WindowBoxes::openNext()
     m_open = true;
     const Opening open = std::exchange(m_waiting.front(), {});
     m_waiting.pop_front();
-    QMessageBox *box = open();
+    QDialog *box = open();
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(box, &QMessageBox::finished, m_parent, [this] {
+    QObject::connect(box, &QDialog::finished, m_parent, [this] {
         m_open = false;
         openNext();
     });

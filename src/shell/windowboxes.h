@@ -2,6 +2,7 @@
 
 #include "boxes.h"
 
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 
@@ -16,13 +17,16 @@ public:
     void setParent(QWidget *parent) { m_parent = parent; }
     void message(const Trouble &trouble) override;
     void ask(const Question &question, std::function<void(Answer)> answered) override;
+    void input(const Question &question, const QString &proposal,
+               std::function<void(const QString &)> answered) override;
 
 private:
-    using Opening = std::function<class QMessageBox *()>;
+    using Opening = std::function<QDialog *()>;
 
     void add(Opening open);
     void openNext();
     class QMessageBox *messageBox(const Trouble &trouble) const;
+    class QMessageBox *questionBox(const Question &question) const;
 
     std::function<Language()> m_language;
     QPointer<QWidget> m_parent;

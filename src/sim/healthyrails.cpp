@@ -105,6 +105,25 @@ QString valueToken(double value)
     return QString::number(value, 'f', 4);
 }
 
+static Rail railAt(const SeedTable &table, const QStringList &row)
+{
+    return {.output = outputOfRow(table.cell(row, u"Orig")),
+            .net = table.cell(row, u"Malha"),
+            .chip = table.cell(row, u"Ci"),
+            .nominal = table.cell(row, u"RefV"),
+            .shownNominal = table.cell(row, u"REF")};
+}
+
+double typicalMillivolts(const QString &model, const QString &output)
+{
+    const SeedTable table = seedTable(u"master"_s);
+    for (const QStringList &row : table.rows) {
+        if (table.cell(row, u"Modelo") == model && outputOfRow(table.cell(row, u"Orig")) == output)
+            return typicalVoltage(railAt(table, row));
+    }
+    return 0.0;
+}
+
 QMap<QString, QString> healthyRails(const QString &model)
 {
     const SeedTable table = seedTable(u"master"_s);
@@ -112,11 +131,7 @@ QMap<QString, QString> healthyRails(const QString &model)
     for (const QStringList &row : table.rows) {
         if (table.cell(row, u"Modelo") != model)
             continue;
-        const Rail rail{.output = outputOfRow(table.cell(row, u"Orig")),
-                        .net = table.cell(row, u"Malha"),
-                        .chip = table.cell(row, u"Ci"),
-                        .nominal = table.cell(row, u"RefV"),
-                        .shownNominal = table.cell(row, u"REF")};
+        const Rail rail = railAt(table, row);
         tokens.insert(pmuLabel(rail.output), healthyToken(model, rail));
     }
     return tokens;

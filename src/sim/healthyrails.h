@@ -8,5 +8,8 @@
 /// for the simulation alone and no reference.
 QMap<QString, QString> healthyRails(const QString &model);
 
+/// What an output of a healthy phone stands at, before the scatter; 0 for one that the seed tables do not know.
+double typicalMillivolts(const QString &model, const QString &output);
+
 /// A value as phones print it: four decimals.
 QString valueToken(double value);

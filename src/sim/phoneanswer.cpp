@@ -1,7 +1,12 @@
+#include "buckanswer.h"
+#include "checkanswer.h"
+#include "chipoutputs.h"
+#include "gaugeanswer.h"
 #include "healthyrails.h"
 #include "phoneprofile.h"
 #include "pmuoutputs.h"
 #include "scatter.h"
+#include "shellcommands.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,21 +26,11 @@ constexpr Supply kSupplies[] = {
     {"temp_buck0:"_L1, 37.5, "C"_L1},
 };
 
-// The display supply chip of the IP X; the values without a nominal of its own are for the simulation alone.
-constexpr Supply kAcorn[] = {
-    {"acorn ground :"_L1, 0.0, "mV"_L1},   {"acorn vin :"_L1, 3800.0, "mV"_L1}, {"acorn vb :"_L1, 5100.0, "mV"_L1},
-    {"acorn vp :"_L1, 10000.0, "mV"_L1},   {"acorn vn :"_L1, -6700.0, "mV"_L1}, {"acorn vh :"_L1, 5250.0, "mV"_L1},
-    {"acorn vl :"_L1, 4300.0, "mV"_L1},    {"acorn va :"_L1, 3500.0, "mV"_L1},  {"acorn vc :"_L1, 1100.0, "mV"_L1},
-    {"acorn die_temp :"_L1, 36.0, "C"_L1}, {"acorn ia :"_L1, 2.5, "mA"_L1},     {"acorn in :"_L1, 6.0, "mA"_L1},
-    {"acorn ip :"_L1, 4.0, "mA"_L1},       {"acorn ih :"_L1, 1.5, "mA"_L1},
-};
-
-template <typename Supplies>
-QStringList supplyLines(const QString &model, const Supplies &supplies)
+QStringList supplyLines(const QString &model)
 {
     constexpr double kShare = 0.008;
     QStringList lines;
-    for (const Supply &supply : supplies) {
+    for (const Supply &supply : kSupplies) {
         const double value = supply.value * (1.0 + kShare * scatter(model, QString(supply.label)));
         lines.append(u"%1 %2 %3"_s.arg(supply.label, valueToken(value), supply.unit));
     }
@@ -58,8 +53,36 @@ QStringList railLines(const PhoneProfile &profile)
 QStringList pmuLines(const PhoneProfile &profile)
 {
     const QStringList head = {u"PMU ADC test"_s, u"Read all Channels"_s, u"Read PMU ADC channels"_s};
-    const QStringList acorn = profile.model == "IP X"_L1 ? supplyLines(profile.model, kAcorn) : QStringList();
-    return head + supplyLines(profile.model, kSupplies) + railLines(profile) + acorn;
+    return head + supplyLines(profile.model) + railLines(profile) + chipLines(profile, u"acorn");
+}
+
+QStringList tigrisLines(const PhoneProfile &profile)
+{
+    return chipLines(profile, u"tigris");
+}
+
+QStringList chestnutLines(const PhoneProfile &profile)
+{
+    const QStringList lines = chipLines(profile, u"chestnut");
+    return lines.isEmpty() ? QStringList{u"ERROR: chestnut not found"_s} : lines;
+}
+
+/// A chip that answers fills more than three lines; one that does not leaves one word.
+QStringList portChipLines(const PhoneProfile &profile)
+{
+    static const QStringList kRegisters = {u"port controller, revision 3"_s,
+                                           u"dx1: 0x00 switch: open  mode: USB"_s,
+                                           u"dx2: 0x00 switch: open  mode: UART"_s,
+                                           u"acc1: 0 mV  accessory: none"_s,
+                                           u"acc2: 0 mV  accessory: none"_s,
+                                           u"idx: 0x10 0x0C 0x00 0x00 0x00 0x00"_s,
+                                           u"vdx: 0 mV  passed"_s};
+    return profile.portChipAnswers ? kRegisters : QStringList{u"ERROR"_s};
+}
+
+QStringList nothing(const PhoneProfile &)
+{
+    return {};
 }
 
 QStringList modelLines(const PhoneProfile &profile)
@@ -76,16 +99,29 @@ struct Command
 constexpr Command kCommands[] = {
     {"syscfg print RMd#"_L1, modelLines},
     {"pmuadc --read all"_L1, pmuLines},
+    {"pmuadc --sel tigris --read all"_L1, tigrisLines},
+    {"pmuadc --sel chestnut --read all"_L1, chestnutLines},
+    {"touch --on"_L1, nothing},
+    {"touch --off"_L1, nothing},
+    {"tristar -p"_L1, portChipLines},
+    {"tristar --read dx1 --read dx2 --read acc1 --read acc2 --read idx --read vdx"_L1, portChipLines},
+    {"battery --properties"_L1, batteryLines},
+    {"device --key GasGauge -p"_L1, gaugeLines},
 };
 
 QStringList bodyLines(const PhoneProfile &profile, const QString &line)
 {
     if (line.isEmpty())
         return {};
+    if (const std::optional<QStringList> check = buckAnswer(profile, line))
+        return *check;
     for (const Command &command : kCommands) {
         if (line == command.line)
             return command.body(profile);
     }
+    for (const auto &own : {checkAnswer(profile, line), shellAnswer(line)})
+        if (own)
+            return own->lines;
     return {u"Command \"%1\" not found!"_s.arg(line.section(u' ', 0, 0))};
 }
 
@@ -96,6 +132,20 @@ QString promptOf(const QString &model)
 
 } // namespace
 
+void obey(PhoneProfile &profile, const QByteArray &command)
+{
+    const QByteArray line = command.simplified();
+    if (line == "touch --on" || line == "touch --off")
+        profile.touchOn = line == "touch --on";
+    obeyCheck(profile, QString::fromLatin1(line));
+}
+
+static bool endsWithPrompt(const QByteArray &command)
+{
+    const auto own = shellAnswer(QString::fromLatin1(command).simplified());
+    return !own || own->ending != ShellAnswer::Ending::NoPrompt;
+}
+
 QByteArray answer(const PhoneProfile &profile, const QByteArray &command)
 {
     const QByteArray lineEnd = profile.crlf ? "\r\n" : "\n";
@@ -103,5 +153,5 @@ QByteArray answer(const PhoneProfile &profile, const QByteArray &command)
     const QStringList lines = bodyLines(profile, QString::fromLatin1(command).simplified());
     for (const QString &line : lines)
         bytes += line.toLatin1() + lineEnd;
-    return bytes + promptOf(profile.model).toLatin1();
+    return endsWithPrompt(command) ? bytes + promptOf(profile.model).toLatin1() : bytes;
 }

@@ -1,5 +1,7 @@
 #include "phoneprofile.h"
 
+#include "checkanswer.h"
+#include "chipoutputs.h"
 #include "healthyrails.h"
 #include "models.h"
 #include "pmuoutputs.h"
@@ -71,12 +73,26 @@ bool setCrlf(PhoneProfile &profile, const QString &value)
     return value.isEmpty();
 }
 
+bool setBattery(PhoneProfile &profile, const QString &value)
+{
+    profile.wornBattery = value == "worn"_L1;
+    return profile.wornBattery;
+}
+
+bool setPortChip(PhoneProfile &profile, const QString &value)
+{
+    profile.portChipAnswers = value != "off"_L1;
+    return !profile.portChipAnswers;
+}
+
 constexpr FaultRow kFaults[] = {
     {"model"_L1, "model=TEXT"_L1, setModelNumber},
     {"prompt"_L1, "prompt=split"_L1, setPrompt},
     {"drop"_L1, "drop@BYTES"_L1, setDrop},
     {"silent"_L1, "silent"_L1, setSilent},
     {"crlf"_L1, "crlf"_L1, setCrlf},
+    {"battery"_L1, "battery=worn"_L1, setBattery},
+    {"tristar"_L1, "tristar=off"_L1, setPortChip},
 };
 
 Fault faultFrom(const QString &text)
@@ -97,20 +113,36 @@ std::optional<QString> railToken(const QString &value)
     return isNumber && std::isfinite(milli) ? std::optional(valueToken(milli)) : std::nullopt;
 }
 
+QString labelNamed(const PhoneProfile &profile, const QString &name)
+{
+    const QString label = pmuLabel(name);
+    return profile.rails.contains(label) ? label : chipLabel(profile, name);
+}
+
+/// Power on USB that is too little to count as present.
+constexpr auto kLowBus = "4300.0000"_L1;
+
 bool setRail(PhoneProfile &profile, const Fault &fault)
 {
-    const auto rail = profile.rails.find(pmuLabel(fault.name));
-    const std::optional<QString> token = railToken(fault.value.toLower());
-    if (rail == profile.rails.end() || !token)
+    const QString value = fault.value.toLower();
+    const QString label = labelNamed(profile, fault.name);
+    if (label.isEmpty())
         return false;
-    *rail = *token;
-    return true;
+    if (value == "missing"_L1)
+        return profile.rails.remove(label) == 1;
+    const bool isLowBus = value == "low"_L1 && fault.name.contains("vbus"_L1);
+    const std::optional<QString> token = isLowBus ? QString(kLowBus) : railToken(value);
+    if (token)
+        profile.rails[label] = *token;
+    return token.has_value();
 }
 
 bool apply(PhoneProfile &profile, const Fault &fault)
 {
     const auto row = std::ranges::find(kFaults, fault.name, &FaultRow::name);
-    return row == std::end(kFaults) ? setRail(profile, fault) : row->apply(profile, fault.value);
+    if (row != std::end(kFaults))
+        return row->apply(profile, fault.value);
+    return breakPart(profile, fault.name, fault.value) || setRail(profile, fault);
 }
 
 /// The faults that a phone of this model can have, as they are typed.
@@ -119,12 +151,11 @@ QString knownFaults(const PhoneProfile &profile)
     QStringList known;
     for (const FaultRow &row : kFaults)
         known.append(row.form);
-    const QStringList outputs = pmuOutputs();
-    for (const QString &output : outputs) {
-        if (profile.rails.contains(pmuLabel(output)))
-            known.append(output + "=VALUE|off|timeout"_L1);
-    }
-    return known.join(", "_L1);
+    QStringList outputs = pmuOutputs();
+    outputs.removeIf([&](const QString &output) { return !profile.rails.contains(pmuLabel(output)); });
+    const QStringList rails = outputs + chipOutputNames(profile);
+    return (known + partFaults(profile)).join(", "_L1) + ", RAIL=VALUE|off|timeout|missing; RAIL: "_L1 +
+           rails.join(", "_L1);
 }
 
 Trouble unknown(const QString &part, const QString &known)
@@ -146,6 +177,7 @@ PhoneProfile healthy(const QString &model)
     PhoneProfile profile;
     profile.model = model;
     profile.rails = healthyRails(model);
+    profile.rails.insert(healthyChips(model));
     const auto row = std::ranges::find(kNumbers, model, &ModelNumber::model);
     profile.modelNumber = row == std::end(kNumbers) ? QString() : QString(row->number);
     return profile;

@@ -4,6 +4,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -18,11 +19,19 @@ struct PhoneProfile
     std::optional<qsizetype> dropAt; ///< the line goes dead after so many bytes of a reply
     bool silent = false;
     bool crlf = false;
+    bool touchOn = false; ///< the supply of the touch controller, off after a start
+    bool wornBattery = false;
+    bool portChipAnswers = true;
+    QStringList broken = {};   ///< parts that do not answer, by their faults: "i2c1:75", "radio0", "nand"
+    QStringList radiosOn = {}; ///< by the first word of their commands
 };
 
 /// The profile of a text "MODEL[,fault…]" such as "IP 7,ldo2=1200,crlf". Trouble names the part that is not known
 /// and lists what is.
 Result<PhoneProfile> profileFor(const QString &text);
 
-/// The whole answer to a command line: echo, body and prompt, in bytes.
+/// What a command changes in the phone once it is answered.
+void obey(PhoneProfile &profile, const QByteArray &command);
+
+/// The whole answer to a command line: echo, body and, unless the phone falls silent, the prompt, in bytes.
 QByteArray answer(const PhoneProfile &profile, const QByteArray &command);

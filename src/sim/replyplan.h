@@ -29,5 +29,6 @@ struct ReplyPlan
 };
 
 /// The echo at once, the body at the line's pace, the prompt in one write and not before its time. A split prompt
-/// comes in two writes, the second `promptDelay` times 2.5 after the first, so that two polls lie between them.
+/// comes in two writes, the second `promptDelay` times 2.5 after the first, so that two polls lie between them. What
+/// the phone takes its time for comes line by line.
 ReplyPlan replyPlan(const PhoneProfile &profile, const QByteArray &command, std::chrono::milliseconds promptDelay);

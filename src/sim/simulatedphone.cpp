@@ -2,6 +2,7 @@
 
 #include "outflow.h"
 #include "pseudoterminal.h"
+#include "shellcommands.h"
 
 #include <QElapsedTimer>
 #include <QSocketNotifier>
@@ -26,6 +27,7 @@ struct SimulatedPhone::Terminal
     QByteArray typed = {};
     QList<QByteArray> waiting = {}; // commands that came while a reply was on its way: the phone takes them in turn
     std::optional<Outflow> reply = {};
+    Mood mood = Mood::Listening;
     QElapsedTimer sinceFirstByte = {};
 };
 
@@ -83,7 +85,13 @@ void SimulatedPhone::answerNext()
 {
     if (m_terminal->reply || m_terminal->waiting.isEmpty())
         return;
-    const ReplyPlan plan = replyPlan(m_terminal->profile, m_terminal->waiting.takeFirst(), m_terminal->promptDelay);
+    const QByteArray command = m_terminal->waiting.takeFirst();
+    const Mood before = m_terminal->mood;
+    m_terminal->mood = moodAfter(before, QString::fromLatin1(command).simplified());
+    if (before == m_terminal->mood && before != Mood::Listening)
+        return answerNext(); // it hears nothing
+    const ReplyPlan plan = replyPlan(m_terminal->profile, command, m_terminal->promptDelay);
+    obey(m_terminal->profile, command);
     m_terminal->reply.emplace(plan, m_terminal->bytesPerSecond);
     m_terminal->sinceFirstByte.start();
     m_terminal->timer.start();

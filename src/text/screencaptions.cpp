@@ -77,9 +77,24 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"Teste Finalizados", u"Teste Finalizados", u"Tests Finished", u"Pruebas finalizadas"},
     {u"Visualizar Diagrama PDF", u"Visualizar Diagrama PDF", u"View PDF Diagram", u"Ver diagrama PDF"},
 
+    {u"Barramento", u"Barramento", u"Bus", u"Bus"},
+    {u"Endereço", u"Endereço", u"Address", u"Dirección"},
+    {u"NADA_ESPERADO_I2C", u"Nenhum componente é esperado nos barramentos do %1: nada foi julgado.",
+     u"No device is expected on the buses of the %1: nothing was judged.",
+     u"No se espera ningún componente en los buses del %1: nada se evaluó."},
+    {u"Telefone bom conhecido", u"Telefone bom conhecido", u"Known-good phone", u"Teléfono bueno conocido"},
+    {u"CONHECIDO_I2C",
+     u"O que respondeu (%2 componentes em %3 barramentos) passa a ser o esperado do %1 nesses barramentos, no lugar do "
+     u"que havia. Este telefone está bom?",
+     u"What answered (%2 devices on %3 buses) becomes what is expected of the %1 on these buses, in place of what was. "
+     u"Is this phone known to be good?",
+     u"Lo que respondió (%2 componentes en %3 buses) pasa a ser lo esperado del %1 en esos buses, en lugar de lo que "
+     u"había. ¿Este teléfono está bueno?"},
+
     {u"Testes de Comunicação RF", u"Testes de Comunicação RF", u"RF Communication Tests",
      u"Pruebas de comunicación RF"},
     {u"Propriedades", u"Propriedades", u"Properties", u"Propiedades"},
+    {u"Ligar", u"Ligar", u"Turn on", u"Encender"},
     {u"TensoesRF", u"Tensões RF", u"RF Voltage", u"RF Voltage"},
     {u"VALORES DE REFERÊNCIA RF", u"VALORES DE REFERÊNCIA RF", u"RF REFERENCE VALUES", u"VALORES DE REFERENCIA RF"},
 
@@ -88,6 +103,7 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"Identificação Única NAND", u"Identificação Única NAND", u"Unique NAND Identification",
      u"Identificación única NAND"},
     {u"Informações da NAND", u"Informações da NAND", u"NAND Information", u"Información de la NAND"},
+    {u"Configuração gravada", u"Configuração gravada", u"Stored configuration", u"Configuración grabada"},
     {u"PDFs Nand", u"PDFs Nand", u"Nand PDFs", u"PDF de Nand"},
     {u"Processo syscfg", u"Esse processo leva aproximadamente 45 segundos, deseja continuar?",
      u"This process takes approximately 45 seconds, do you want to continue?",
@@ -95,6 +111,15 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"Não disponível para 6/6P", u"Não disponível para 6/6P", u"Not available for 6/6P", u"No disponible para 6/6P"},
 
     {u"Testes de Display", u"Testes de Display", u"Display Tests", u"Pruebas de pantalla"},
+    {u"Amarelo", u"Amarelo", u"Yellow", u"Amarillo"},
+    {u"Azul", u"Azul", u"Blue", u"Azul"},
+    {u"Branco", u"Branco", u"White", u"Blanco"},
+    {u"Cinza", u"Cinza", u"Grey", u"Gris"},
+    {u"Ciano", u"Ciano", u"Cyan", u"Cian"},
+    {u"Preto", u"Preto", u"Black", u"Negro"},
+    {u"Rosa", u"Rosa", u"Magenta", u"Rosa"},
+    {u"Verde", u"Verde", u"Green", u"Verde"},
+    {u"Vermelho", u"Vermelho", u"Red", u"Rojo"},
     {u"Cores", u"Cores", u"Colors", u"Colores"},
     {u"Resolução", u"Resolução", u"Resolution", u"Resolución"},
     {u"Nível", u"Nível", u"Level", u"Nivel"},
@@ -102,6 +127,10 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"Observe a tela", u"Observe a tela", u"Watch the screen", u"Observe la pantalla"},
 
     {u"Testes Adicionais", u"Testes Adicionais", u"Additional Tests", u"Pruebas adicionales"},
+    {u"MEM RAM Teste", u"MEM RAM Teste", u"RAM Test", u"Prueba de RAM"},
+    {u"MEM RAM Teste 1MB", u"MEM RAM Teste 1MB\r\nRead/Write", u"RAM Test 1MB\r\nRead/Write",
+     u"Prueba de RAM 1MB\r\nRead/Write"},
+    {u"Guia de panic full", u"Guia de panic full", u"Panic-full guide", u"Guía de panic full"},
     {u"TESTE 15s", u"TESTE 15s", u"TEST 15s", u"PRUEBA 15s"},
     {u"TESTE 40s", u"TESTE 40s", u"TEST 40s", u"PRUEBA 40s"},
 };

@@ -4,12 +4,17 @@ using enum MessageIcon;
 
 // Columns: key, icon, Portuguese, English, Spanish.
 static constexpr NoticeRow kWorkbenchMessages[] = {
-    // Store: %1 the path, %2 the reason as the system words it
+    // Store: %1 the path, %2, where there is one, the reason as the system words it
     {u"STORE_MISSING",
      Critical,
-     {u"Banco de dados não encontrado: %1\nCrie-o com \"prelt store init\" ou reinstale o software.\n%2",
-      u"Store not found: %1\nMake it with \"prelt store init\" or reinstall the software.\n%2",
-      u"Base de datos no encontrada: %1\nCréela con \"prelt store init\" o reinstale el software.\n%2"}},
+     {u"Banco de dados não encontrado: %1\nCrie-o com \"prelt store init\" ou reinstale o software.",
+      u"Store not found: %1\nMake it with \"prelt store init\" or reinstall the software.",
+      u"Base de datos no encontrada: %1\nCréela con \"prelt store init\" o reinstale el software."}},
+    {u"IMPORT_NOTHING",
+     Information,
+     {u"Nada a importar: não há dados de uma versão anterior em %1.",
+      u"Nothing to import: there are no data of a former version at %1.",
+      u"Nada que importar: no hay datos de una versión anterior en %1."}},
     {u"STORE_LOCKED",
      Critical,
      {u"Banco de dados em uso por outro programa: %1\nFeche o outro programa e tente novamente.\n%2",
@@ -175,6 +180,52 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      Information,
      {u"Não enviado: o comando está vazio.", u"Not sent: the command is empty.",
       u"No enviado: el comando está vacío."}},
+    {u"MODEL_QUERY_UNKNOWN",
+     Information,
+     {u"O dispositivo não reconheceu a consulta do modelo. Se você estiver testando um IP7, repita o processo sem "
+      u"desconectar ele da BOX; ou selecione o modelo.",
+      u"The device did not know the model query. If you are testing an IP7, repeat the process without disconnecting "
+      u"it from the BOX; or select the model.",
+      u"El dispositivo no reconoció la consulta del modelo. Si está probando un IP7, repita el proceso sin "
+      u"desconectarlo del BOX; o seleccione el modelo."}},
+    // %1 the last number
+    {u"REFUSED_BUCK",
+     Information,
+     {u"Não enviado: o buck deve ser um número de 0 a %1.", u"Not sent: the buck must be a number from 0 to %1.",
+      u"No enviado: el buck debe ser un número de 0 a %1."}},
+    // %1 the model, %2 the command, %3 the size
+    {u"RECORDED",
+     Information,
+     {u"Gravado: %1, %2 (%3 bytes).", u"Recorded: %1, %2 (%3 bytes).", u"Grabado: %1, %2 (%3 bytes)."}},
+    // %1 the model, %2 the bus
+    {u"REFUSED_BUS",
+     Information,
+     {u"Não enviado: o %1 não tem o barramento I2C %2 para testar.",
+      u"Not sent: the %1 has no I2C bus %2 to be tested.", u"No enviado: el %1 no tiene el bus I2C %2 para probar."}},
+    {u"COMMAND_APOSTROPHE",
+     Information,
+     {u"Recusado: um comando com apóstrofo não pode ser gravado.",
+      u"Refused: a command with an apostrophe cannot be stored.",
+      u"Rechazado: no se puede guardar un comando con apóstrofo."}},
+    // %1 the document, %2 and %3 where it was looked for
+    {u"GUIDE_MISSING",
+     Information,
+     {u"O documento %1 não foi encontrado.\nProcurado em: %2\n%3",
+      u"The document %1 was not found.\nLooked for in: %2\n%3",
+      u"No se encontró el documento %1.\nBuscado en: %2\n%3"}},
+    {u"PDF_NOT_WRITTEN",
+     Information,
+     {u"O PDF não pôde ser gravado: %1\n%2", u"The PDF could not be written: %1\n%2",
+      u"No se pudo guardar el PDF: %1\n%2"}},
+    // %1 the file, %2 the reason as the system words it
+    {u"TEXT_NOT_SAVED",
+     Information,
+     {u"O texto não pôde ser salvo: %1\n%2", u"The text could not be saved: %1\n%2",
+      u"No se pudo guardar el texto: %1\n%2"}},
+    {u"DOCUMENT_NOT_OPENED",
+     Information,
+     {u"O sistema não tem um programa para abrir: %1", u"The system has no program to open: %1",
+      u"El sistema no tiene un programa para abrir: %1"}},
     {u"IGNORED_EMPTY_REPLY",
      Information,
      {u"O dispositivo não respondeu; nada foi avaliado.", u"The device did not answer; nothing was judged.",

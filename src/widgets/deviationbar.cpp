@@ -1,5 +1,7 @@
 #include "deviationbar.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -38,4 +40,30 @@ DeviationBar deviationBar(const QRect &area, double deviation, const std::option
     if (rule && rule->highest)
         drawn.highMark = place(*rule->highest);
     return drawn;
+}
+
+/// Zero and the limits stand out above and below the bar.
+static void paintMark(QPainter &painter, int place, const QRect &area, const QColor &colour)
+{
+    static constexpr int kOut = 3;
+    painter.fillRect(place, area.top() - kOut, 1, area.height() + 2 * kOut, colour);
+}
+
+void paintDeviation(QPainter &painter, const QRect &area, double deviation, const std::optional<Rule> &rule,
+                    const BarColours &colours)
+{
+    const DeviationBar drawn = deviationBar(area, deviation, rule);
+    painter.fillRect(drawn.bar, colours.bar);
+    paintMark(painter, drawn.zero, area, colours.line);
+    QColor pale = colours.line;
+    pale.setAlphaF(0.55F);
+    for (const std::optional<int> mark : {drawn.lowMark, drawn.highMark}) {
+        if (mark)
+            paintMark(painter, *mark, area, pale);
+    }
+    if (!drawn.clipped)
+        return;
+    // A gap near the end of the bar: it goes on beyond the scale.
+    const int gap = deviation < 0 ? area.left() + 6 : area.right() - 9;
+    painter.fillRect(gap, area.top(), 3, area.height(), colours.behind);
 }

@@ -2,6 +2,7 @@
 
 #include "verdict.h"
 
+#include <QColor>
 #include <QRect>
 
 #include <optional>
@@ -22,3 +23,15 @@ struct DeviationBar
 double fullScale(const std::optional<Rule> &rule);
 
 DeviationBar deviationBar(const QRect &area, double deviation, const std::optional<Rule> &rule);
+
+/// What a deviation bar is drawn in.
+struct BarColours
+{
+    QColor bar;
+    QColor line;   ///< zero and, paler, the limits
+    QColor behind; ///< shows through where the bar goes on beyond the scale
+};
+
+/// Draws the bar around zero with the limits of the rule.
+void paintDeviation(QPainter &painter, const QRect &area, double deviation, const std::optional<Rule> &rule,
+                    const BarColours &colours);

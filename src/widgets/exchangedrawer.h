@@ -6,10 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
-class QToolButton;
+class FindBar;
+class TextPane;
 
 /// The exchange with the phone as text with times: find, copy, save. It paints now and then, never per chunk, and only
 /// while it is shown.
@@ -35,13 +33,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QWidget *tools();
     void wake();
     QString nextText();
     QString textOf(const Exchange &exchange);
     QString opened(const Exchange &exchange);
-    void append(const QString &text);
-    void find(bool backwards);
     void save();
 
     ExchangeLog &m_log;
@@ -50,11 +45,6 @@ private:
     qint64 m_shown = 0;
     std::optional<Exchange::Direction> m_openLine; ///< the direction of a line that has no end yet
     qsizetype m_lineLength = 0;
-    QPlainTextEdit *m_text;
-    QLineEdit *m_find;
-    QLabel *m_hit;
-    QToolButton *m_next;
-    QToolButton *m_previous;
-    QToolButton *m_copy;
-    QToolButton *m_save;
+    TextPane *m_text;
+    FindBar *m_find;
 };

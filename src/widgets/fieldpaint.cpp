@@ -1,5 +1,7 @@
 #include "fieldpaint.h"
 
+#include "gauge.h"
+#include "linelist.h"
 #include "theme.h"
 
 #include <QAbstractButton>
@@ -8,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QSignalBlocker>
 
@@ -27,8 +30,9 @@ static void as(QWidget &control, Action action)
 
 static void setText(QWidget &control, const QString &text)
 {
-    as<QLabel, QAbstractButton, QLineEdit>(control, [&](auto &typed) { typed.setText(text); });
+    as<QLabel, QAbstractButton, QLineEdit, Gauge>(control, [&](auto &typed) { typed.setText(text); });
     as<QGroupBox>(control, [&](QGroupBox &box) { box.setTitle(text); });
+    as<QPlainTextEdit>(control, [&](QPlainTextEdit &box) { box.setPlainText(text); });
     as<QComboBox>(control, [&](QComboBox &combo) { combo.setCurrentText(text); });
 }
 
@@ -37,12 +41,16 @@ static void setChecked(QWidget &control, bool checked)
     as<QAbstractButton, QGroupBox>(control, [&](auto &typed) { typed.setChecked(checked); });
 }
 
+/// A progress bar paints itself at once, and the window with it: it may wait for its turn as all else does.
 static void setValue(QWidget &control, int value)
 {
-    as<QProgressBar, QAbstractSlider>(control, [&](auto &typed) { typed.setValue(value); });
+    const bool updates = control.updatesEnabled();
+    control.setUpdatesEnabled(false);
+    as<QProgressBar, QAbstractSlider, Gauge>(control, [&](auto &typed) { typed.setValue(value); });
+    control.setUpdatesEnabled(updates);
 }
 
-/// The chosen entry stays chosen where the new list still has it.
+/// The chosen entry stays chosen where the new list still has it, and what was typed stays anyway.
 static void setItems(QWidget &control, const QStringList &items)
 {
     as<QComboBox>(control, [&](QComboBox &combo) {
@@ -51,7 +59,10 @@ static void setItems(QWidget &control, const QStringList &items)
         combo.addItems(items);
         if (const int place = combo.findText(chosen); place >= 0)
             combo.setCurrentIndex(place);
+        else if (combo.isEditable() && !chosen.isEmpty())
+            combo.setEditText(chosen);
     });
+    as<LineList>(control, [&](LineList &list) { list.setLines(items); });
 }
 
 static QPalette colouredPalette(const QColor &back, const QColor &fore)

@@ -10,6 +10,7 @@ enum class ColumnKind
     Text,
     Number,
     Deviation, ///< the text with a bar around zero
+    Drift,     ///< not a cell of the row: how far it is from what was recorded, with a drawing
     Verdict    ///< not a cell of the row: its verdict by shape and word
 };
 
@@ -22,7 +23,7 @@ struct GridColumn
 
     constexpr Qt::Alignment alignment() const
     {
-        const bool right = kind == ColumnKind::Number || kind == ColumnKind::Deviation;
-        return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+        const bool left = kind == ColumnKind::Name || kind == ColumnKind::Text || kind == ColumnKind::Verdict;
+        return (left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
     }
 };

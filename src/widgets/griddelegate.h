@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QHash>
+#include <QStaticText>
 #include <QStyledItemDelegate>
 
+#include <array>
+
 class PanelModel;
+enum class ColumnKind;
 
 /// Draws the cells of a panel's rows: faults and gaps as fields of colour, deviations as bars, verdicts as shapes with
 /// their words.
@@ -20,5 +25,9 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    void paintText(QPainter &painter, const QStyleOptionViewItem &option, ColumnKind kind) const;
+    const QStaticText &shaped(const QString &text, ColumnKind kind, const QFont &font) const;
+
     const PanelModel &m_rows;
+    mutable std::array<QHash<QString, QStaticText>, 2> m_shaped; ///< by face: shaping texts is what costs
 };

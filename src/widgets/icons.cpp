@@ -4,45 +4,100 @@
 
 #include <QDir>
 #include <QFile>
+#include <QIconEngine>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 using namespace Qt::StringLiterals;
 
 static constexpr auto kFolder = ":/icons/"_L1;
 
-static QByteArray drawing(QStringView name)
+static QString drawingFile(const QString &name)
 {
-    QFile file(kFolder + name.toString() + ".svg"_L1);
+    return kFolder + name + ".svg"_L1;
+}
+
+static QByteArray drawing(const QString &name)
+{
+    QFile file(drawingFile(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-static QPixmap rendered(QByteArray svg, const QColor &colour, int side)
+namespace {
+
+/// Draws an icon when it is first seen: a start that renders the whole set in every size keeps the window waiting.
+class DrawingEngine : public QIconEngine
 {
-    QSvgRenderer renderer(svg.replace("currentColor", colour.name().toLatin1()));
-    QPixmap pixmap(side, side);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter);
-    return pixmap;
+public:
+    DrawingEngine(QString name, QColor Theme::*ink, QColor Theme::*inkWhenOn)
+        : m_name(std::move(name)), m_ink(ink), m_inkWhenOn(inkWhenOn)
+    {
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QString colour = (currentTheme().*inkFor(mode, state)).name();
+        const QString key = u"%1 %2 %3x%4"_s.arg(m_name, colour).arg(size.width()).arg(size.height());
+        QPixmap pixmap;
+        if (!QPixmapCache::find(key, &pixmap)) {
+            pixmap = rendered(size, colour);
+            QPixmapCache::insert(key, pixmap);
+        }
+        return pixmap;
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        painter->drawPixmap(rect, pixmap(rect.size() * painter->device()->devicePixelRatio(), mode, state));
+    }
+
+    QIconEngine *clone() const override { return new DrawingEngine(*this); }
+
+private:
+    QColor Theme::*inkFor(QIcon::Mode mode, QIcon::State state) const
+    {
+        if (mode == QIcon::Disabled)
+            return &Theme::border;
+        return state == QIcon::On ? m_inkWhenOn : m_ink;
+    }
+
+    QPixmap rendered(const QSize &size, const QString &colour) const
+    {
+        QSvgRenderer renderer(drawing(m_name).replace("currentColor", colour.toLatin1()));
+        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        renderer.render(&painter);
+        return pixmap;
+    }
+
+    QString m_name;
+    QColor Theme::*m_ink;
+    QColor Theme::*m_inkWhenOn;
+};
+
+} // namespace
+
+static QIcon icon(const QString &name, QColor Theme::*ink, QColor Theme::*inkWhenOn)
+{
+    return QFile::exists(drawingFile(name)) ? QIcon(new DrawingEngine(name, ink, inkWhenOn)) : QIcon();
 }
 
-QIcon lineIcon(QStringView name, const QColor &colour)
+QIcon lineIcon(QStringView name, QColor Theme::*ink)
 {
-    QIcon icon;
-    const QByteArray svg = drawing(name);
-    if (svg.isEmpty())
-        return icon;
-    for (const int side : {16, 20, 24, 32, 48, 64}) {
-        icon.addPixmap(rendered(svg, colour, side));
-        icon.addPixmap(rendered(svg, currentTheme().border, side), QIcon::Disabled);
-    }
-    return icon;
+    return icon(name.toString(), ink, ink);
+}
+
+QIcon switchIcon(QStringView name)
+{
+    return icon(name.toString(), &Theme::text, &Theme::onAccent);
 }
 
 QIcon lineIcon(QStringView name)
 {
-    return lineIcon(name, currentTheme().text);
+    return lineIcon(name, &Theme::text);
 }
 
 QStringList lineIconNames()
@@ -56,9 +111,5 @@ QStringList lineIconNames()
 
 QIcon programIcon()
 {
-    QIcon icon;
-    const QByteArray svg = drawing(u"prelt");
-    for (const int side : {16, 24, 32, 48, 64, 128, 256})
-        icon.addPixmap(rendered(svg, Qt::black, side));
-    return icon;
+    return lineIcon(u"prelt");
 }

@@ -1,22 +1,12 @@
 #include "panelgrid.h"
 
-#include "catalogue.h"
 #include "emptytext.h"
 #include "griddelegate.h"
 #include "gridtext.h"
-#include "icons.h"
 #include "panelmodel.h"
 #include "theme.h"
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QFileDialog>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QSaveFile>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +16,8 @@ static constexpr int kRowHeight = 5 * Spacing::unit;
 static constexpr int kLeastColumn = 48;
 static constexpr int kCaptionPadding = 14;
 
-PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_rows(rows)
+PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent)
+    : QTableView(parent), m_rows(rows), m_export(new TableExport(*this, rows, [this] { return copyText(); }))
 {
     setModel(&rows);
     setItemDelegate(new GridDelegate(rows, this));
@@ -41,13 +32,14 @@ PanelGrid::PanelGrid(PanelModel &rows, QWidget *parent) : QTableView(parent), m_
     verticalHeader()->setDefaultSectionSize(kRowHeight);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultSectionSize(kLeastColumn);
+    connect(m_export, &TableExport::exportFailed, this, &PanelGrid::exportFailed);
     connect(&rows, &PanelModel::modelReset, this, &PanelGrid::narrowColumns);
     connect(&rows, &PanelModel::shown, this, &PanelGrid::fitColumns);
 }
 
 void PanelGrid::setLanguage(Language language)
 {
-    m_language = language;
+    m_export->setLanguage(language);
     m_rows.setLanguage(language);
 }
 
@@ -76,53 +68,10 @@ void PanelGrid::fitColumns()
     }
 }
 
-static QString lineOf(const QStringList &cells)
-{
-    return cells.join(u'\t');
-}
-
 QString PanelGrid::copyText() const
 {
     const QModelIndexList chosen = selectedIndexes();
-    if (!chosen.isEmpty())
-        return copiedText(chosen);
-    QStringList lines;
-    for (const QStringList &cells : tableText(m_rows))
-        lines.append(lineOf(cells));
-    return lines.join(u'\n');
-}
-
-QByteArray PanelGrid::csv() const
-{
-    return csvFile(tableText(m_rows));
-}
-
-void PanelGrid::copy()
-{
-    QGuiApplication::clipboard()->setText(copyText());
-}
-
-void PanelGrid::exportCsv()
-{
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto *const dialog = new QFileDialog(this, caption(u"Exportar CSV", m_language), folder, u"CSV (*.csv)"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"csv"_s);
-    dialog->selectFile(m_exportName + u".csv"_s);
-    connect(dialog, &QFileDialog::fileSelected, this, &PanelGrid::writeCsv);
-    dialog->open();
-}
-
-void PanelGrid::writeCsv(const QString &path)
-{
-    QSaveFile file(path);
-    const QByteArray bytes = csv();
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (written)
-        emit exported(path);
-    else
-        emit exportFailed(path, file.errorString());
+    return chosen.isEmpty() ? m_export->text() : copiedText(chosen);
 }
 
 void PanelGrid::paintEvent(QPaintEvent *event)
@@ -130,22 +79,4 @@ void PanelGrid::paintEvent(QPaintEvent *event)
     QTableView::paintEvent(event);
     if (m_rows.rowCount() == 0)
         paintEmptyText(*this, m_emptyText);
-}
-
-void PanelGrid::contextMenuEvent(QContextMenuEvent *event)
-{
-    auto *const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction *const copying = menu->addAction(lineIcon(u"copy"), caption(u"Copiar", m_language), this, &PanelGrid::copy);
-    copying->setShortcut(QKeySequence::Copy);
-    menu->addAction(lineIcon(u"export"), caption(u"Exportar CSV", m_language), this, &PanelGrid::exportCsv);
-    menu->popup(event->globalPos());
-}
-
-void PanelGrid::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copy();
-    else
-        QTableView::keyPressEvent(event);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "language.h"
+#include "tableexport.h"
 
 #include <QTableView>
 
@@ -18,33 +18,23 @@ public:
     /// What stands in the table while it has no rows.
     void setEmptyText(const QString &text);
     /// The name that the export suggests, without ending.
-    void setExportName(const QString &name) { m_exportName = name; }
+    void setExportName(const QString &name) { m_export->setName(name); }
 
     /// The selected cells as text; without a selection the whole table with its captions.
     QString copyText() const;
-    QByteArray csv() const;
-
-public slots:
-    void copy();
-    /// Asks for a file and writes the table there.
-    void exportCsv();
+    QByteArray csv() const { return m_export->csv(); }
 
 signals:
-    void exported(const QString &path);
     void exportFailed(const QString &path, const QString &reason);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void contextMenuEvent(QContextMenuEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void writeCsv(const QString &path);
     void narrowColumns();
     void fitColumns();
 
     PanelModel &m_rows;
-    Language m_language = Language::English;
+    TableExport *m_export;
     QString m_emptyText;
-    QString m_exportName;
 };

@@ -50,6 +50,8 @@ static bool isReordering(const QStringList &before, const QStringList &after)
 
 void PanelModel::show(const QList<Row> &rows)
 {
+    if (rows == m_rows)
+        return;
     const QStringList before = identities(m_rows);
     const QStringList after = identities(rows);
     if (before == after)
@@ -102,8 +104,18 @@ int PanelModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
 }
 
+static QString driftText(std::optional<double> percent)
+{
+    if (!percent)
+        return {};
+    const QString number = QString::number(*percent, 'f', 1);
+    return (number == "0.0"_L1 || number == "-0.0"_L1 ? u"0"_s : number) + " %"_L1;
+}
+
 QString PanelModel::text(const Row &row, const GridColumn &column) const
 {
+    if (column.kind == ColumnKind::Drift)
+        return driftText(row.largestDrift());
     if (column.kind != ColumnKind::Verdict)
         return row.cell(column.key);
     // A row that nothing is held against says nothing.
@@ -123,6 +135,21 @@ static QString referenceTip(const Row &row, Language language)
     return lines.join(u'\n');
 }
 
+/// Each recorded reading with what the live one has gone away from it.
+static QString driftTip(const Row &row, Language language)
+{
+    static constexpr std::array<std::pair<QStringView, QStringView>, 3> kSlots = {
+        {{u"G1", u"Gravação 1"}, {u"G2", u"Gravação 2"}, {u"G3", u"Gravação 3"}}};
+    QStringList lines;
+    for (std::size_t slot = 0; slot < kSlots.size(); ++slot) {
+        const auto &[cell, key] = kSlots.at(slot);
+        if (const QString recorded = row.cell(cell); !recorded.isEmpty())
+            lines.append(
+                u"%1: %2   %3"_s.arg(caption(key, language), recorded, driftText(row.drift.at(slot))).trimmed());
+    }
+    return lines.join(u'\n');
+}
+
 QVariant PanelModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
@@ -132,7 +159,8 @@ QVariant PanelModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(shown, column(index.column()));
     case Qt::ToolTipRole:
-        return referenceTip(shown, m_language);
+        return column(index.column()).kind == ColumnKind::Drift ? driftTip(shown, m_language)
+                                                                : referenceTip(shown, m_language);
     case Qt::TextAlignmentRole:
         return static_cast<int>(column(index.column()).alignment());
     default:

@@ -29,7 +29,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    /// Rows or captions were taken over, whole.
+    /// Rows or captions were taken over that are not those of before, whole.
     void shown();
 
 private:

@@ -6,13 +6,14 @@ ScreenForm::ScreenForm(std::unique_ptr<Screen> screen, QWidget *parent) : QWidge
 {
     setObjectName(m_screen->name());
     connect(m_screen.get(), &Screen::panelChanged, this, &ScreenForm::paintPanel);
-    connect(&m_screen->session(), &Session::languageChanged, this, &ScreenForm::repaintAll);
+    connect(&m_screen->session(), &Session::languageChanged, this, &ScreenForm::paintAgain);
 }
 
 void ScreenForm::CarregaDados()
 {
     Traducao_Form();
     m_screen->open();
+    m_screen->readAtOpening();
 }
 
 Language ScreenForm::language() const
@@ -20,7 +21,7 @@ Language ScreenForm::language() const
     return m_screen->session().language();
 }
 
-void ScreenForm::repaintAll()
+void ScreenForm::paintAgain()
 {
     Traducao_Form();
     m_painter.forget();

@@ -24,6 +24,8 @@ public:
     virtual void CarregaDados();
     /// Shows a judged thing.
     virtual void goTo(const QString &what) { m_screen->goTo(what); }
+    /// Sets captions and colours anew: the language or the theme is another.
+    void paintAgain();
 
 signals:
     /// The user asked for something that is to last: should the store refuse it, a line at the bottom is not enough.
@@ -39,8 +41,6 @@ protected:
     virtual void paintPanel();
 
 private:
-    void repaintAll();
-
     std::unique_ptr<Screen> m_screen;
     Painter m_painter{*this};
 };

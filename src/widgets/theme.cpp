@@ -149,14 +149,18 @@ QToolTip { padding: 4px; border: 1px solid @border; background: @surface; color:
     return sheet.replace("@tick"_L1, theme.dark ? "tick-dark"_L1 : "tick-light"_L1);
 }
 
-void applyTheme(QApplication &application, ThemeChoice choice)
+void applyTheme(ThemeChoice choice)
 {
     static const bool desktopDark = currentTheme().dark; // asked before our own palette covers it
     const bool dark = choice == ThemeChoice::Dark || (choice == ThemeChoice::Desktop && desktopDark);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(paletteOf(theme(dark)));
     QApplication::setFont(textFont());
-    application.setStyleSheet(styleSheetOf(theme(dark)));
+}
+
+void applyStyleSheet(QApplication &application)
+{
+    application.setStyleSheet(styleSheetOf(currentTheme()));
 }
 
 /// What a colour is on the screen: as a field, and as text on the surface.
@@ -175,8 +179,11 @@ static const Tint &tintOf(Colour colour)
                                       {&Theme::passField, &Theme::passInk, true},
                                       {&Theme::warnField, &Theme::warnInk, true},
                                       {&Theme::passField, &Theme::passInk, true},
+                                      {&Theme::passField, &Theme::passInk, true},
                                       {&Theme::surface, &Theme::text},
-                                      {&Theme::window, &Theme::window}};
+                                      {&Theme::window, &Theme::window},
+                                      {&Theme::passField, &Theme::passInk, true},
+                                      {&Theme::dim, &Theme::dim, true}};
     return kTints[static_cast<std::size_t>(colour)];
 }
 

@@ -49,7 +49,10 @@ inline constexpr int target = 32;
 const Theme &currentTheme();
 
 /// Gives the application its style, its font and the palette of the theme.
-void applyTheme(QApplication &application, ThemeChoice choice = ThemeChoice::Desktop);
+void applyTheme(ThemeChoice choice = ThemeChoice::Desktop);
+/// Gives the application the style sheet of its palette. Widgets that are put together later pay for it at every move
+/// to another parent: a start does it when the window is whole.
+void applyStyleSheet(QApplication &application);
 
 /// The fill of a field of this colour.
 QColor fieldColour(Colour colour, const Theme &theme);

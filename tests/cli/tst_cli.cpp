@@ -1,4 +1,5 @@
 #include "columns.h"
+#include "data/otherprogram.h"
 #include "phoneprofile.h"
 
 #include <QFile>
@@ -129,6 +130,67 @@ private slots:
         QVERIFY(table("es"_L1).contains("FALLA"));
     }
 
+    void otherScreens_data()
+    {
+        columns<QString, int, QString>({"line", "code", "finding"});
+        const QString everyOutput =
+            u" --model \"IP 7\" --reply " PRELT_SOURCE_DIR "/tests/power/replies/everyoutput.txt"_s;
+        QTest::newRow("core rails") << u"judge vcore"_s + everyOutput << 1 << u"PP0V9_NAND"_s;
+        QTest::newRow("the chip without the fault") << u"judge vcore --ic GPU"_s + everyOutput << 0 << QString();
+        QTest::newRow("at the tolerance") << u"judge pmu --kind 2"_s + everyOutput << 1 << u"PP1V8_SDRAM"_s;
+        QTest::newRow("a gap inside the tolerance")
+            << u"judge pmu --kind 2 --tolerance 10.1"_s + everyOutput << 5 << u"PP1V1_SDRAM"_s;
+        QTest::newRow("a buck") << u"run bucktest --buck 3 --port \"sim:IP 7,buck3=1500\""_s << 1 << u"buck3"_s;
+        QTest::newRow("all bucks") << u"run bucktest --all --port \"sim:IP 7,buck8=timeout\""_s << 5 << u"buck8"_s;
+        QTest::newRow("port controller") << u"run tristar --port \"sim:IP 7,ildo7=2\""_s << 1
+                                         << u"PP3V0_TRISTAR_ANT_PROX (mA)"_s;
+        QTest::newRow("charger") << u"run tigris --port \"sim:IP 8,vbus=low\""_s << 1 << u"VBUS"_s;
+        QTest::newRow("OLED panel") << u"run acorn --port \"sim:IP X,acorn.va=timeout\""_s << 5 << u"PP3V5_RACER"_s;
+        QTest::newRow("touch comes up") << u"run chestnut --port \"sim:IP 7\""_s << 0 << QString();
+        QTest::newRow("touch stays low") << u"run chestnut --port \"sim:IP 7,vldo3=3000\""_s << 1
+                                         << u"PP5V1_TOUCH_VDDH"_s;
+        QTest::newRow("battery is not judged") << u"run battery --port \"sim:IP 7,battery=worn\""_s << 0 << QString();
+        QTest::newRow("chip is silent") << u"run ic --selector 2 --port \"sim:IP X,tristar=off\""_s << 1 << u"HYDRA"_s;
+    }
+
+    void otherScreens()
+    {
+        QFETCH(const QString, line);
+        const Outcome outcome = atHome(line + " --json"_L1);
+        QTEST(outcome.code, "code");
+        const QJsonArray findings = outcome.json().value(u"findings"_s).toArray();
+        QTEST(findings.first().toObject().value(u"what"_s).toString(), "finding");
+    }
+
+    void refusedModelIsNoFault()
+    {
+        const Outcome outcome = atHome(u"run acorn --json --port \"sim:IP 7\""_s);
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.json().value(u"verdict"_s).toString(), u"none"_s);
+        QCOMPARE(outcome.json().value(u"messages"_s).toArray(), QJsonArray{u"SOMENTE_X"_s});
+    }
+
+    void aVerdictThatCouldNotBeWrittenIsNoPass()
+    {
+        if (!QFile::exists(u"/dev/full"_s))
+            QSKIP("no device that is always full");
+        QProcess program;
+        program.setStandardOutputFile(u"/dev/full"_s);
+        program.start(QStringLiteral(PRELT_PROGRAM), {u"ports"_s, u"--json"_s, u"--home"_s, m_home.path()});
+        QVERIFY(program.waitForFinished(60000));
+        QCOMPARE(program.exitCode(), 2);
+        QVERIFY(program.readAllStandardError().startsWith("prelt: the output"));
+    }
+
+    void fieldsAreATableForPeople()
+    {
+        const QByteArray chip = atHome(u"run tigris --lang en --port \"sim:IP 7,vbus=low\""_s).out;
+        QVERIFY(chip.contains("4.300 V") && chip.contains("4.045 V +8 %") && chip.contains("FAIL (1 fail"));
+        QCOMPARE(chip.count("VBUS"), 1); // voltage and current of a pin on one line
+        const QByteArray battery = atHome(u"run battery --lang en --port \"sim:IP 6\""_s).out;
+        QVERIFY(battery.contains("DESIGNATED CAPACITY  1810 mAh") && battery.contains("* FUNCTION NOT AVAILABLE"));
+    }
+
     void troubleIsOneLine_data()
     {
         columns<QString, int, QByteArray>({"line", "code", "names"});
@@ -142,8 +204,19 @@ private slots:
         add("screen misspelt", u"run bukldo"_s, 2, "bukldo");
         add("no port given", u"run buckldo"_s, 2, "--port");
         add("no such kind", u"run buckldo --port 1 --kind 3"_s, 2, "--kind");
+        add("no tolerance", u"judge pmu --tolerance 0 --model \"IP 7\" --reply -"_s, 2, "--tolerance");
+        add("no buck", u"judge bucktest --model \"IP 7\" --reply -"_s, 2, "--buck");
+        add("all bucks in one reply", u"judge bucktest --all --model \"IP 7\" --reply -"_s, 2, "--all");
+        add("one buck and all", u"run bucktest --buck 5 --all --port 1"_s, 2, "--all");
+        add("no such chip", u"run vcore --ic RAM --port 1"_s, 2, "--ic");
         add("no such model", u"judge buckldo --model \"IP 9\" --reply -"_s, 2, "--model");
         add("nothing to send", u"send \" \" --port 1"_s, 2, "command");
+        add("no phone and no reply", u"compare --command x"_s, 2, "--port or --reply");
+        add("a reply of no model", u"compare --command x --reply -"_s, 2, "--model");
+        add("a log that cannot be", u"send sn --port \"sim:IP 7\" --log /no/such/log --lang en"_s + home, 2,
+            "/no/such/log");
+        add("a line that changes the phone", u"send \"syscfg add SrNm X\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
+        add("the same to be compared", u"compare --command \"syscfg add\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
         add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
         add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
         add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");
@@ -188,6 +261,64 @@ private slots:
         QCOMPARE(told.json().value(u"model"_s).toString(), u"IP 7"_s);
         QCOMPARE(told.json().value(u"messages"_s).toArray(),
                  QJsonArray({u"MSG_ERRO_NAND"_s, u"MSG_SELECIONE_MODELO"_s}));
+    }
+
+    void recordsAndCompares()
+    {
+        const QString asked = u" --command \"pmuadc --read all\" --lang en --port "_s;
+        const Outcome none = atHome(u"compare --json"_s + asked + u"\"sim:IP 7\""_s);
+        QCOMPARE(none.code, 0);
+        QCOMPARE(none.json().value(u"verdict"_s).toString(), u"none"_s);
+
+        const Outcome recorded = atHome(u"record"_s + asked + u"\"sim:IP 7\""_s);
+        QCOMPARE(recorded.code, 0);
+        QVERIFY(recorded.out.startsWith("Recorded: IP 7, pmuadc --read all ("));
+        const QJsonObject same = atHome(u"compare --json"_s + asked + u"\"sim:IP 7\""_s).json();
+        QCOMPARE(same.value(u"verdict"_s).toString(), u"pass"_s);
+        QVERIFY(same.value(u"mark"_s).toBool());
+
+        const Outcome faulty = atHome(u"compare --json"_s + asked + u"\"sim:IP 7,ldo2=1200,buck3=off\""_s);
+        QCOMPARE(faulty.code, 1);
+        QVERIFY(!faulty.json().value(u"mark"_s).toBool());
+        const QJsonArray lines = faulty.json().value(u"lines"_s).toArray();
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0][u"live"_s].toString(), u"BIST buck3: 0.0000 mV"_s);
+        QCOMPARE(lines[1][u"live"_s].toString(), u"BIST ldo2: 1200.0000 mV"_s);
+        QVERIFY(lines[1][u"change"_s].toString().startsWith(u"-6"));
+        QCOMPARE(faulty.json().value(u"summary"_s)[u"text"_s].toString(),
+                 u"First departs at BIST buck3, 2 lines differ"_s);
+
+        const QString saved = u"compare --command \"pmuadc --read all\" --model \"IP 7\" --lang en --reply -"_s;
+        const Outcome judged = atHome(saved, replyOf(u"IP 7,ldo2=1200"_s));
+        QCOMPARE(judged.code, 1);
+        QVERIFY(judged.out.contains("BIST ldo2: 1200.0000 mV") && !judged.out.contains("buck"));
+        QCOMPARE(atHome(saved, replyOf(u"IP 7"_s).chopped(30)).code, 5);
+        QCOMPARE(atHome(u"record"_s + asked + u"\"sim:IP 7,drop@900\""_s).code, 3);
+        QCOMPARE(atHome(u"compare --json"_s + asked + u"\"sim:IP 7\""_s).code, 0); // what was kept is kept
+    }
+
+    void storeThatTakesNothingKeepsNothing()
+    {
+        const QString path = m_home.filePath(u"Config.pmx"_s);
+        OtherProgram other(path);
+        other.run(u"BEGIN IMMEDIATE"_s);
+        const Outcome locked = atHome(u"record --command \"help nand\" --port \"sim:IP 8\" --lang en"_s);
+        QCOMPARE(locked.code, 4);
+        QCOMPARE(locked.out, QByteArray());
+        QVERIFY(locked.errors.contains(path.toUtf8()));
+    }
+
+    void exchangeIsTakenDown()
+    {
+        const QString log = m_home.filePath(u"sent.log"_s);
+        for (int time = 0; time < 2; ++time)
+            QCOMPARE(atHome(u"send \"foo\" --port \"sim:IP 7\" --log %1"_s.arg(log)).code, 0);
+        QFile file(log);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray text = file.readAll();
+        QCOMPARE(text.count("# Tavimo"), 1);
+        QCOMPARE(text.count(" > foo\\r\n"), 2);
+        QVERIFY(text.contains("Command \"foo\" not found!"));
     }
 
     void sendsAndDetects()

@@ -1,4 +1,5 @@
 #include "columns.h"
+#include "drift.h"
 #include "labelledvalue.h"
 #include "railevaluation.h"
 
@@ -59,6 +60,10 @@ private slots:
         QCOMPARE(judged(9.9, rule), Verdict::Pass);
         QCOMPARE(judged(-9.9, rule), Verdict::Pass);
         QCOMPARE(judged({}, rule), Verdict::Incomplete);
+        QCOMPARE(judged(8.0, Rule::atLeast(8)), Verdict::Pass);
+        QCOMPARE(judged(7.9, Rule::atLeast(8)), Verdict::Fail);
+        QCOMPARE(judged(99.0, Rule::above(-10)), Verdict::Pass);
+        QCOMPARE(judged(-10.0, Rule::above(-10)), Verdict::Fail);
         QCOMPARE(worst(Verdict::Incomplete, Verdict::Fail), Verdict::Fail);
         QCOMPARE(worst(Verdict::Incomplete, Verdict::Pass), Verdict::Incomplete);
     }
@@ -93,8 +98,15 @@ private slots:
         add("a label in other letter case", u"bist LDO3: 1800.0000 mV\n"_s, Kind::Missing);
         add("time-out", u"BIST ldo3: timeout mV\n"_s, Kind::TimedOut, u"timeout"_s);
         add("whole millivolts without a point", u"BIST ldo3: -800 mV\n"_s, Kind::Volt, u"-0.800"_s);
+        add("temperature", u"BIST ldo3: 25.4920 C\r\n"_s, Kind::Celsius, u"25,492"_s);
+        add("unit lost after the first letter", u"BIST ldo3: 25.4920 \r\nC"_s, Kind::Missing);
         add("noise in the number", u"BIST ldo3: 18q0.0000 mV\n"_s, Kind::Missing);
         add("two blanks", u"BIST ldo3:  1800.0000 mV\n"_s, Kind::Missing);
+        add("no blank before the number", u"BIST ldo3:12800.0000 mV\n"_s, Kind::Missing);
+        add("microvolts look like millivolts", u"BIST ldo3: 1800.0000 uV\n"_s, Kind::Missing);
+        add("another unit passes for a current", u"BIST ldo3: 1800.0000 mX\n"_s, Kind::Missing);
+        add("more volts than a phone can have", u"BIST ldo3: 1000000.0000 mV\n"_s, Kind::Missing);
+        add("the most that is read", u"BIST ldo3: -999999.0000 mV\n"_s, Kind::Volt, u"-999.999"_s);
         add("number cut by a line end that a blank follows", u"BIST ldo3: 18\n mV"_s, Kind::Missing);
         add("half of the unit", u"BIST ldo3: 1800.0000 m\r\nBIST ldo4: 1.0000 mV\n"_s, Kind::Missing);
         add("number cut, then the prompt", u"BIST ldo3: 18\r\n[0011AABB:CCDD2233] :-) "_s, Kind::Missing);
@@ -158,6 +170,10 @@ private slots:
         add("ten per cent low", {ldo3(u"2700.0000"_s), u"43"_s, u"3.000"_s, u"2.700 V"_s, u"-10 %"_s, Verdict::Fail});
         add("just inside below", {ldo3(u"2701.0000"_s), u"43"_s, u"3.000"_s, u"2.701 V"_s, u"-9.9 %"_s, Verdict::Pass});
         add("dead rail", {ldo3(u"0.0000"_s), u"43"_s, u"3.000"_s, u"0 V"_s, u"-100 %"_s, Verdict::Fail});
+        add("dead rail beside a reference of one decimal",
+            {ldo3(u"19.0000"_s), u"43"_s, u"1.8"_s, u"0.019 V"_s, u"-98.9 %"_s, Verdict::Fail});
+        add("reference typed with a comma",
+            {ldo3(u"3300.0000"_s), u"43"_s, u"3,0"_s, u"3.300 V"_s, u"10 %"_s, Verdict::Fail});
         add("negative reading", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"-0.012 V"_s});
         add("negative reading at one decimal", {ldo3(u"-12.0000"_s), u"43"_s, {}, u"0 V"_s, {}, Verdict::None, 1});
         add("above ten volts the cut counts characters", {ldo3(u"12345.0000"_s), u"43"_s, {}, u"12.34 V"_s});
@@ -177,6 +193,8 @@ private slots:
             {ildo3(u"1.6999"_s), u"63"_s, u"1.70"_s, u"1,6 mA"_s, u"-0.1 %"_s, Verdict::Pass});
         add("current padded to its reference's decimals",
             {ildo3(u"96.6610"_s), u"63"_s, u"96.6610"_s, u"96,6 mA"_s, u"0 %"_s, Verdict::Pass});
+        add("three counts of a coarse reference are no three thousandths",
+            {ildo3(u"1.4000"_s), u"63"_s, u"1.7"_s, u"1,4 mA"_s, u"-17.6 %"_s, Verdict::Fail});
 
         const auto firstCore = [](const QString &model, const QString &shown) {
             return Case{.reply = u"ibuck0: 96.6610 mA\n"_s,
@@ -206,6 +224,39 @@ private slots:
         QCOMPARE(rail.row.porc, given.porc);
         QCOMPARE(rail.verdict, given.verdict);
         QCOMPARE(rail.indexUnknown, given.refT == "17"_L1);
+    }
+
+    void driftFromARecording_data()
+    {
+        columns<QString, QString, std::optional<double>>({"reading", "recorded", "percent"});
+        using Percent = std::optional<double>;
+        QTest::newRow("lower") << u"1.500 V"_s << u"2.000 V"_s << Percent(-25);
+        QTest::newRow("higher, with commas") << u"12,5 mA"_s << u"10,0 mA"_s << Percent(25);
+        QTest::newRow("below zero") << u"-6.000 V"_s << u"-5.000 V"_s << Percent(-20);
+        QTest::newRow("fewer places then: inside") << u"1.899 V"_s << u"1.8 V"_s << Percent(0);
+        QTest::newRow("fewer places then: just below") << u"0.995 V"_s << u"1.0 V"_s << Percent(-0.5);
+        QTest::newRow("fewer places then: above") << u"1.200 V"_s << u"1.0 V"_s << Percent(10);
+        QTest::newRow("fewer places now: inside") << u"1.8 V"_s << u"1.899 V"_s << Percent(0);
+        QTest::newRow("fewer places now: above") << u"1.2 V"_s << u"1.000 V"_s << Percent(20);
+        QTest::newRow("a rail that died") << u"0 V"_s << u"1.8 V"_s << Percent(-100);
+        QTest::newRow("a rail that was dead") << u"1.8 V"_s << u"0 V"_s << Percent(100);
+        QTest::newRow("dead as before") << u"0 V"_s << u"0 V"_s << Percent(0);
+        for (const char *missing : {"", "*", "**", "Sem Medi\u00e7\u00e3o*"}) {
+            QTest::addRow("live %s", missing) << QString::fromUtf8(missing) << u"1.8 V"_s << Percent();
+            QTest::addRow("recorded %s", missing) << u"1.8 V"_s << QString::fromUtf8(missing) << Percent();
+        }
+        QTest::newRow("other unit") << u"1.8 V"_s << u"1,8 mA"_s << Percent();
+    }
+
+    void driftFromARecording()
+    {
+        QFETCH(const QString, reading);
+        QFETCH(const QString, recorded);
+        QFETCH(const std::optional<double>, percent);
+        const auto found = drift(reading, recorded);
+        QCOMPARE(found.has_value(), percent.has_value());
+        QVERIFY2(std::abs(found.value_or(0) - percent.value_or(0)) < 1e-9,
+                 qPrintable(QString::number(found.value_or(0))));
     }
 };
 

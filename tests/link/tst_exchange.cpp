@@ -288,7 +288,7 @@ private slots:
         qint64 kept = 0;
         for (qint64 number = bench.log.first(); number < bench.log.end(); ++number)
             kept += bench.log.at(number).bytes.capacity();
-        QVERIFY2(kept < (9 << 20) && kept > (4 << 20), qPrintable(QString::number(kept)));
+        QVERIFY2(kept < (5 << 20) && kept > (2 << 20), qPrintable(QString::number(kept)));
         QCOMPARE(bench.log.droppedBytes() + kept, kFlood);
     }
 

@@ -1,108 +1,37 @@
 #pragma once
 
 #include "buckldoscreen.h"
-#include "home.h"
-#include "phoneprofile.h"
-#include "seeds.h"
+#include "phonebench.h"
 
-#include <QTemporaryDir>
+#include <QFile>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-inline PhoneProfile phone(const QString &description)
+/// A saved reply that the tests of all screens over rails share.
+inline QString savedReply(const QString &name)
 {
-    const Result<PhoneProfile> profile = profileFor(description);
-    return profile ? *profile : PhoneProfile{};
+    QFile file(QStringLiteral(PRELT_SOURCE_DIR "/tests/power/replies/") + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
 }
 
-/// A phone that answers a command at once, whole or up to the byte at which the cable is pulled.
-class PhonePort : public Port
+/// A screen over rails on a phone.
+template <typename ScreenType = BuckLdoScreen>
+struct RailBench : PhoneBench
 {
-public:
-    Result<Done> open(const QString &) override
+    explicit RailBench(const QString &description) : PhoneBench(description)
     {
-        m_open = true;
-        m_arrived.clear();
-        return Done{};
-    }
-    void close() override { m_open = false; }
-    bool isOpen() const override { return m_open; }
-    void write(const QByteArray &bytes) override
-    {
-        commands.append(bytes.chopped(1));
-        m_arrived += answer(phone, bytes.chopped(1)).left(keptBytes);
-    }
-    QByteArray read() override { return std::exchange(m_arrived, {}); }
-    void discardInput() override { m_arrived.clear(); }
-    void pull()
-    {
-        m_open = false;
-        emit lost();
-    }
-
-    PhoneProfile phone;
-    static constexpr qsizetype kAll = 1'000'000;
-    qsizetype keptBytes = kAll;
-    QList<QByteArray> commands;
-
-private:
-    bool m_open = false;
-    QByteArray m_arrived;
-};
-
-/// A person who answers every question alike and keeps what was told.
-class ScriptedBoxes : public Boxes
-{
-public:
-    void message(const Trouble &trouble) override { keys.append(trouble.what.key); }
-    void ask(const Question &question, std::function<void(Answer)> answered) override
-    {
-        questions.append(question.text);
-        answered(answer);
-    }
-
-    QStringList keys;
-    QStringList questions;
-    Answer answer = Answer::Yes;
-};
-
-/// The screen with its session, a store made from the seeds, and a phone; the test is the clock.
-struct RailBench
-{
-    explicit RailBench(const QString &description)
-    {
-        port.phone = phone(description);
-        const QString path = configStore(folder.path());
-        if (!createStore(path))
-            qFatal("no store for the test");
-        store = std::make_unique<StoreQueue>(path, StoreQueue::Waiting::Blocking);
-        const auto deviceFor = [](const PortAddress &) -> Result<QString> { return u"phone"_s; };
-        session = std::make_unique<Session>(SessionParts{port, *store, boxes, deviceFor});
-        session->load();
-        screen = std::make_unique<BuckLdoScreen>(*session);
+        screen = std::make_unique<ScreenType>(*session);
         screen->open();
     }
 
-    void connectPhone()
-    {
-        session->connectOrDisconnect(u"1"_s);
-        gatherReply();
-        session->TimerValidaPorta_Timer();
-    }
-    /// Polls until the link is idle.
-    void gatherReply()
-    {
-        session->Timer1_Timer();
-        for (int poll = 0; poll < 400 && session->Status() != "1"_L1; ++poll)
-            session->Timer2_Timer();
-    }
     void readKind(int kind)
     {
         screen->chooseKind(kind);
         screen->read();
         gatherReply();
+        screen->TimerGrava_Timer();
     }
     Row shown(const QString &orig) const
     {
@@ -119,10 +48,5 @@ struct RailBench
         return found == rows.end() ? RailRow{} : *found;
     }
 
-    QTemporaryDir folder;
-    PhonePort port;
-    ScriptedBoxes boxes;
-    std::unique_ptr<StoreQueue> store;
-    std::unique_ptr<Session> session;
-    std::unique_ptr<BuckLdoScreen> screen;
+    std::unique_ptr<ScreenType> screen;
 };

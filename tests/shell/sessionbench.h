@@ -68,8 +68,14 @@ public:
         m_log.append("ask "_L1 + question.title);
         answered(answer);
     }
+    void input(const Question &question, const QString &, std::function<void(const QString &)> answered) override
+    {
+        m_log.append("input "_L1 + question.title);
+        answered(typed);
+    }
 
     Answer answer = Answer::No;
+    QString typed;
 
 private:
     QStringList &m_log;

@@ -142,6 +142,134 @@ private slots:
             QCOMPARE(screen.events.size(), 1); // each its own reply and no other's
     }
 
+    void recordingComesWithItsCodes()
+    {
+        ReadyBench bench;
+        {
+            Result<Store> store = Store::open(bench.path, Store::Access::Write, 1s);
+            QVERIFY(bool(saveRecording(*store, {u"IP 7"_s, u"HELP"_s, u"kept"_s})));
+            QVERIFY(bool(saveRecording(*store, {u"IP 8"_s, u"Help"_s, u"another phone's"_s})));
+        }
+        std::map<QString, Listener> screens;
+        const QStringList bound = {u"1"_s, u"2"_s, u"8"_s, u"9"_s, u"13"_s, u"17"_s};
+        for (const QString &code : bound + QStringList{u"5"_s, u"14"_s, u"15"_s, u"18"_s, u"19"_s}) {
+            bench.session.attach(code, &screens[code]);
+            bench.port.answers = {{"ok\n:-) "}};
+            QVERIFY(bench.session.request(code, u"Help"_s));
+            bench.deliver();
+            QCOMPARE(screens[code].events, QStringList{u"taken"_s});
+            const auto &recording = screens[code].last.recording;
+            QCOMPARE(recording ? recording->recording.dados : QString(), bound.contains(code) ? u"kept"_s : QString());
+        }
+    }
+
+    void recordingIsWaitedFor()
+    {
+        ReadyBench bench;
+        Listener console;
+        bench.session.attach(u"1"_s, &console);
+        const auto answeredWhileLocked = [&] {
+            bench.port.answers = {{"ok\n:-) "}};
+            QVERIFY(bench.session.request(u"1"_s, u"Help"_s));
+            bench.session.Timer1_Timer();
+            QVERIFY(console.events.isEmpty());
+            QVERIFY(!bench.session.request(u"15"_s, u"cmd"_s));
+        };
+        {
+            OtherProgram other(bench.path);
+            other.run(u"BEGIN EXCLUSIVE"_s);
+            answeredWhileLocked();
+            for (int tick = 0; tick < 50; ++tick)
+                bench.store.TimerStore_Timer();
+            QCOMPARE(bench.log, QStringList({u"REFUSED_BUSY"_s, u"STORE_LOCKED"_s}));
+            QCOMPARE(console.events, QStringList{u"taken"_s}); // without a recording, but not lost
+            QVERIFY(bench.session.isReady());
+
+            console.events.clear();
+            answeredWhileLocked();
+            bench.port.die();
+            QCOMPARE(console.events, QStringList{u"lost"_s});
+            QCOMPARE(console.last.reply, u"\r\nok\r\n:-) "_s);
+        }
+        bench.store.TimerStore_Timer();
+        QCOMPARE(console.events, QStringList{u"lost"_s}); // what the store says now is for nobody
+    }
+
+    void stopDeliversWhatCame()
+    {
+        ReadyBench bench;
+        const auto stopAfter = [&](int polls, const QList<QByteArray> &chunks) {
+            bench.port.answers = {chunks};
+            if (!bench.session.request(u"15"_s, u"cmd"_s))
+                return QString();
+            if (polls > 0)
+                bench.session.Timer1_Timer();
+            for (int poll = 1; poll < polls; ++poll)
+                bench.session.Timer2_Timer();
+            bench.session.stop(u"1"_s); // another screen's command is not its to stop
+            const bool inFlight = bench.session.Status() == u'3';
+            bench.session.stop(u"15"_s);
+            return inFlight && bench.session.isReady() && bench.screen.last.cut ? bench.screen.last.reply : QString();
+        };
+        QCOMPARE(stopAfter(2, {"one", "two", "three", "four"}), u"\r\nonetwothree"_s);
+        QCOMPARE(stopAfter(0, {"one"}), u"\r\none"_s);
+        QCOMPARE(stopAfter(1, {"one", ":-) "}), u"\r\none:-) "_s); // even with its prompt
+        bench.port.answers = {{"ok\n:-) "}};
+        bench.session.request(u"15"_s, u"cmd"_s);
+        QCOMPARE(bench.deliver(), 1); // nothing of what was stopped comes in between
+        QCOMPARE(bench.screen.last.reply, u"\r\nok\r\n:-) "_s);
+        QVERIFY(!bench.screen.last.cut);
+        bench.session.stop(u"15"_s);
+        QCOMPARE(bench.screen.events.size(), 4);
+    }
+
+    void anotherCommandInstead()
+    {
+        ReadyBench bench;
+        bench.port.answers = {{"counting", "more"}, {"/q\r\n:-) "}};
+        QVERIFY(bench.session.request(u"15"_s, u"buttoncnt --dqe"_s));
+        bench.session.Timer1_Timer();
+        QVERIFY(!bench.session.requestInstead(u"1"_s, u"/q"_s)); // of another screen
+        QVERIFY(bench.session.requestInstead(u"15"_s, u"/q"_s));
+        bench.deliver();
+        QCOMPARE(bench.screen.events, QStringList{u"taken"_s});
+        QCOMPARE(bench.screen.last.reply, u"\r\n/q\r\r\n:-) "_s);
+        QVERIFY(!bench.session.requestInstead(u"15"_s, u"syscfg add"_s));
+    }
+
+    void phoneIsNotChanged_data()
+    {
+        columns<QString, bool>({"command", "sent"});
+        for (const char *command : {"syscfg list", "SYSCFG  Print RMd#", "syscfg help", "help syscfg", "syscfgx add"})
+            QTest::newRow(command) << QString::fromLatin1(command) << true;
+        for (const char *command : {"syscfg", "syscfg add SrNm X", " \tsyscfg\tdelete all", "SysCfg init",
+                                    "syscfg printer", "sn\rsyscfg add SrNm X", "sn; syscfg add SrNm X"})
+            QTest::newRow(command) << QString::fromLatin1(command) << false;
+    }
+
+    void phoneIsNotChanged()
+    {
+        QFETCH(QString, command);
+        ReadyBench bench;
+        QTEST(bench.session.request(u"15"_s, command), "sent");
+        QCOMPARE(bench.port.journal.isEmpty(), bench.log == QStringList{u"MSG_SYSCFG"_s});
+    }
+
+    void consoleKeepsAnEndlessReplyInBounds()
+    {
+        ReadyBench bench;
+        qsizetype appended = 0;
+        QObject::connect(&bench.session, &Session::consoleAppended, &bench.session,
+                         [&](const QString &text) { appended += text.size(); });
+        bench.port.answers = {{"first", QByteArray(20'000'000, 'x'), "end :-) "}};
+        QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
+        bench.deliver();
+        QVERIFY(bench.screen.last.reply.startsWith(u"\r\nfirstx"));
+        QCOMPARE(bench.screen.last.reply.size(), 12 * 1024 * 1024);
+        QVERIFY(bench.screen.last.cut); // what is missing must not pass for good
+        QCOMPARE(appended, 20'000'000 + 13);
+    }
+
     void lateReplyOfAClosedScreen()
     {
         ReadyBench bench;

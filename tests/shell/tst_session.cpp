@@ -176,7 +176,8 @@ private slots:
         QTest::newRow("driver missing") << Bodies{noDriver} << 1 << 0 << kChooseByHand << QString();
         QTest::newRow("known on the repeat") << Bodies{"MKQK2", "A1660"} << 2 << 1 << settled << u"IP 7"_s;
         QTest::newRow("Not Found on the repeat") << Bodies{"Not Found!"} << 2 << 1 << kChooseByHand << QString();
-        QTest::newRow("no such command") << Bodies{noCommand} << 2 << 15 << silently << QString();
+        const QStringList hinted = {u"choose"_s, u"MODEL_QUERY_UNKNOWN"_s, u"settled"_s};
+        QTest::newRow("no such command") << Bodies{noCommand} << 2 << 15 << hinted << QString();
         QTest::newRow("another letter for good") << Bodies{"MKQK2"} << 3 << 15 << silently << QString();
     }
 
@@ -205,6 +206,7 @@ private slots:
         QTEST(bench.session.lbModelo(), "label");
         QCOMPARE(bench.port.journal.count("syscfg print RMd#\r"), queries);
         QCOMPARE(bench.session.isModelKnown(), bench.session.lbModelo() == u"IP 7");
+        QCOMPARE(bench.session.txtConsole().count(u"repita o processo"), bench.log.size() == 3 && queries == 2 ? 1 : 0);
         QVERIFY(bench.session.isReady());
     }
 

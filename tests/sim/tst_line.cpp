@@ -110,6 +110,25 @@ private slots:
         QCOMPARE(heard.value(1).value(0).toByteArray(), QByteArray("foo"));
     }
 
+    void buttonTestHearsOnlyItsEnd()
+    {
+        Bench bench(u"IP 7"_s);
+        bench.phone.setPromptDelay(2ms);
+        bench.port.write("buttoncnt --dqe\rsyscfg print RMd#\r/q\r");
+        const QByteArray expected = answer(profile(u"IP 7"_s), "buttoncnt --dqe") + answer(profile(u"IP 7"_s), "/q");
+        QVERIFY(bench.receives(expected.size()));
+        QCOMPARE(bench.port.read(), expected);
+        bench.chunks.clear();
+        bench.port.write("testmemory --1MB\r");
+        const QByteArray test = answer(profile(u"IP 7"_s), "testmemory --1MB");
+        QVERIFY(bench.receives(test.size()));
+        QVERIFY(bench.chunks.size() > 5); // its progress comes line by line
+        bench.chunks.clear();
+        bench.port.write("Shutdown\rsn\r");
+        QVERIFY(bench.receives(10));
+        QVERIFY(!QTest::qWaitFor([&] { return bench.chunks.join().size() > 10; }, 100));
+    }
+
     void silentPhoneOnlyHears()
     {
         Bench bench(u"IP 7,silent"_s);

@@ -51,7 +51,7 @@ private slots:
         QTest::newRow("unknown command") << u"IP X"_s << QByteArray("foo -x 1")
                                          << QByteArray("foo -x 1\r\nCommand \"foo\" not found!\n");
         QTest::newRow("known word, unknown rest")
-            << u"IP X"_s << QByteArray("syscfg list") << QByteArray("syscfg list\r\nCommand \"syscfg\" not found!\n");
+            << u"IP X"_s << QByteArray("syscfg lost") << QByteArray("syscfg lost\r\nCommand \"syscfg\" not found!\n");
         QTest::newRow("only the return key") << u"IP X"_s << QByteArray() << QByteArray("\r\n");
     }
 
@@ -65,6 +65,66 @@ private slots:
         QCOMPARE(reply.chopped(24), beforePrompt);
         static const QRegularExpression prompt(u"^\\[[0-9A-F]{8}:[0-9A-F]{8}\\] :-\\) $"_s);
         QVERIFY(prompt.match(QString::fromLatin1(reply.last(24))).hasMatch());
+    }
+
+    void shellAnswersByItself()
+    {
+        const auto body = [](const QByteArray &command) {
+            return answer(profile(u"IP 7"_s), command).sliced(command.size() + 2);
+        };
+        const QList<QByteArray> help = body("Help").split('\n');
+        QVERIFY(help.contains("i2c") && help.contains("syscfg") && help.count("syscfg") == 1);
+        QVERIFY(body("help nandsize").startsWith("nandsize  "));
+        QVERIFY(body("help frob").startsWith("No help on \"frob\"!\n["));
+        QCOMPARE(body("Shutdown"), QByteArray());
+        QVERIFY(body("Reset").endsWith(":-) "));
+        QVERIFY(body("testmemory --1MB").contains("\nPassed\n["));
+        QVERIFY(!body("buttoncnt --dqe").contains(":-)"));
+    }
+
+    void chipsAnswer_data()
+    {
+        columns<QString, QByteArray, QByteArray, int>({"phone", "command", "line", "times"});
+        const auto add = [](const char *phone, const char *command, const char *line, int times) {
+            QTest::addRow("%s: %s", phone, line)
+                << QString::fromLatin1(phone) << QByteArray(command) << QByteArray(line) << times;
+        };
+        const char *const tigris = "pmuadc --sel tigris --read all";
+        const char *const chestnut = "pmuadc --sel chestnut --read all";
+        const char *const gauge = "device  --key GasGauge -p";
+        add("IP 7,tigris.vbus=4300", tigris, "\ntigris vbus : 4300.0000 mV\n", 1);
+        add("IP 7,vbus=low", tigris, "\ntigris vbus : 4300.0000 mV\n", 1);
+        add("IP 7,vbat=missing", tigris, "\ntigris vbat", 0);
+        add("IP 7", tigris, "vbus1", 0);
+        add("IP 8,vbus1=timeout", tigris, "\ntigris vbus1 : timeout mV\n", 1);
+        add("IP 6", chestnut, "\nchestnut vldo3 : 0.0000 mV\n", 1); // touch is off after a start
+        add("IP X", chestnut, "chestnut vldo", 0);
+        add("IP X,acorn.die_temp=31.25", "pmuadc --read all", "\nacorn die_temp : 31.2500 C\n", 1);
+        add("IP 7", gauge, "\nnominal-capacity: \"1715mAh\"\n", 1);
+        add("IP 6s", gauge, "nominal-capacity", 0);
+        add("IP 7,tristar=off", "tristar -p", "\nERROR\n", 1);
+        add("IP 7", "touch --on", "touch --on\r\n[", 1);
+    }
+
+    void chipsAnswer()
+    {
+        QFETCH(QString, phone);
+        QFETCH(QByteArray, command);
+        QFETCH(QByteArray, line);
+        QVERIFY2(profileFor(phone), qPrintable(phone));
+        QTEST(static_cast<int>(answer(profile(phone), command).count(line)), "times");
+    }
+
+    void touchSupplyFollowsItsCommand()
+    {
+        PhoneProfile phone = profile(u"IP 7"_s);
+        const auto supply = [&phone] {
+            return milli(answer(phone, "pmuadc --sel chestnut --read all"), u"chestnut vldo3 :"_s);
+        };
+        obey(phone, "touch --on");
+        QVERIFY(supply() && qAbs(*supply() - 5111.0) < 51.0);
+        obey(phone, "touch  --off");
+        QCOMPARE(supply(), 0.0);
     }
 
     void watchedCurrentsStayLow()
@@ -126,10 +186,10 @@ private slots:
         columns<QString, QString>({"part", "listed"});
         QTest::newRow("IP 9") << u"IP 9"_s << u"IP 8 Plus, IP X"_s;
         QTest::newRow("") << u""_s << u"IP 6, IP 6 Plus"_s;
-        QTest::newRow("IP 7,ldo19=1200") << u"ldo19=1200"_s << u"ldo15="_s;
-        QTest::newRow("IP 7,ldo2=low") << u"ldo2=low"_s << u"ldo2="_s;
+        QTest::newRow("IP 7,ldo19=1200") << u"ldo19=1200"_s << u"RAIL=VALUE"_s;
+        QTest::newRow("IP 7,ldo2=low") << u"ldo2=low"_s << u", ldo2,"_s;
         QTest::newRow("IP 7,ldo2") << u"ldo2"_s << u"timeout"_s;
-        QTest::newRow("IP 7,ldo2=nan") << u"ldo2=nan"_s << u"ldo2="_s;
+        QTest::newRow("IP 7,ldo2=nan") << u"ldo2=nan"_s << u", ldo15,"_s;
         QTest::newRow("IP 7,crlf,nonsense") << u"nonsense"_s << u"crlf"_s;
         QTest::newRow("IP 7,drop@soon") << u"drop@soon"_s << u"drop@BYTES"_s;
         QTest::newRow("IP 7,drop@-1") << u"drop@-1"_s << u"drop@BYTES"_s;

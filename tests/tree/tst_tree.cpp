@@ -28,6 +28,7 @@ constexpr Place kHouse[] = {
     {"prelt_text"_L1, 0, -1},
     {"prelt_data"_L1, 1, 0},
     {"prelt_report"_L1, 2, 1},
+    {"prelt-guides"_L1, 3, 2},
     {"prelt_link"_L1, 3, 2},
     {"prelt_session"_L1, 4, 3},
     {"prelt_kit"_L1, 5, 4},

@@ -1,5 +1,6 @@
 #include "columns.h"
 #include "deviationbar.h"
+#include "driftdrawing.h"
 #include "findingslist.h"
 #include "gridtext.h"
 #include "icons.h"
@@ -93,7 +94,7 @@ class TestWidgets : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { applyTheme(*qApp, ThemeChoice::Light); }
+    void initTestCase() { applyTheme(ThemeChoice::Light); }
 
     void paintsEverySort()
     {
@@ -266,6 +267,48 @@ private slots:
         QTEST(drawn.clipped, "clipped");
     }
 
+    void drawingOfTheDrift()
+    {
+        const QRect area(100, 20, 48, 14);
+        const auto points = driftPoints(area, {-30.0, {}, 0.5});
+        QVERIFY(!points[1]);
+        QCOMPARE(points[3]->y(), 27.0);           // the live one, in the middle
+        QVERIFY(points[0]->y() < 23);             // it has fallen: what was recorded stands high
+        QVERIFY(points[2]->y() > points[3]->y()); // it has risen a little
+        QVERIFY(points[2]->y() < 28);             // on the same scale
+        QVERIFY(points[0]->x() < points[2]->x() && points[2]->x() < points[3]->x());
+        for (const double percent : {-1e6, 1e6, 0.1}) // noise is not blown up, and nothing leaves the drawing
+            for (const auto &point : driftPoints(area, {percent, percent, percent}))
+                QVERIFY(QRectF(area).contains(*point) && (percent > 0.1 || std::abs(point->y() - 27) < 6));
+    }
+
+    void driftIsToldInNumbers()
+    {
+        Row row{{{u"G1"_s, u"1.800 V"_s}, {u"G3"_s, u"*"_s}}};
+        row.drift = {-16.66, {}, {}};
+        static constexpr std::array kColumn = {GridColumn{u"Drift", u"Deriva", ColumnKind::Drift}};
+        PanelModel model(kColumn);
+        model.show({row, Row()});
+        QCOMPARE(model.index(0, 0).data().toString(), u"-16.7 %"_s);
+        QCOMPARE(model.index(0, 0).data(Qt::ToolTipRole).toString(),
+                 u"Recording 1: 1.800 V   -16.7 %\nRecording 3: *"_s);
+        QCOMPARE(model.index(1, 0).data().toString(), QString());
+    }
+
+    void typedTextSurvivesOtherEntries()
+    {
+        QWidget form;
+        QComboBox combo(&form);
+        combo.setObjectName(u"Combo1"_s);
+        combo.setEditable(true);
+        combo.addItems({u"0"_s, u"1"_s});
+        combo.setEditText(u"7"_s);
+        Painter painter(form);
+        painter.paint(panelOf({{u"Combo1"_s, {.items = QStringList{u"0"_s, u"1"_s, u"2"_s}}}}));
+        QCOMPARE(combo.count(), 3);
+        QCOMPARE(combo.currentText(), u"7"_s);
+    }
+
     void toleranceMarks()
     {
         const DeviationBar both = deviationBar({100, 20, 101, 8}, 1, Rule::within(5));
@@ -321,17 +364,26 @@ private slots:
         QCOMPARE(chosen, QList<QVariantList>({{u"BuckLdo"_s, u"B"_s}, {u"BuckLdo"_s, u"A"_s}}));
     }
 
-    void everyIconDrawsInItsColour()
+    void everyIconDrawsInTheInkOfTheThemeThatIsShown()
     {
-        QVERIFY(lineIconNames().size() > 30);
-        for (const QString &name : lineIconNames()) {
-            const QImage image = lineIcon(name, Qt::red).pixmap(24).toImage();
-            int red = 0;
+        const auto dots = [](const QIcon &icon, const QColor &wanted) {
+            const QImage image = icon.pixmap(24).toImage();
+            int found = 0;
             for (int pixel = 0; pixel < 24 * 24; ++pixel) {
                 const QColor colour = image.pixelColor(pixel % 24, pixel / 24);
-                red += colour.alpha() > 100 && colour.red() > 200 && colour.green() < 50 ? 1 : 0;
+                const int apart = std::abs(colour.red() - wanted.red()) + std::abs(colour.green() - wanted.green()) +
+                                  std::abs(colour.blue() - wanted.blue());
+                found += colour.alpha() > 100 && apart < 12 ? 1 : 0;
             }
-            QVERIFY2(red > 10, qPrintable(name));
+            return found;
+        };
+        QVERIFY(lineIconNames().size() > 30);
+        for (const QString &name : lineIconNames()) {
+            const QIcon icon = lineIcon(name, &Theme::faultInk);
+            for (const ThemeChoice choice : {ThemeChoice::Dark, ThemeChoice::Light}) {
+                applyTheme(choice);
+                QVERIFY2(dots(icon, currentTheme().faultInk) > 10, qPrintable(name));
+            }
         }
         QVERIFY(lineIcon(u"nosuch").isNull());
         QVERIFY(!programIcon().isNull());
@@ -346,7 +398,8 @@ private slots:
             return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
         };
         for (const ThemeChoice choice : {ThemeChoice::Dark, ThemeChoice::Light}) {
-            applyTheme(*qApp, choice);
+            applyTheme(choice);
+            applyStyleSheet(*qApp);
             const Theme &theme = currentTheme();
             QCOMPARE(theme.dark, choice == ThemeChoice::Dark);
             const std::pair<QColor, QColor> pairs[] = {

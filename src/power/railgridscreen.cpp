@@ -1,18 +1,38 @@
-// The part of the rail screens that records readings and empties recordings.
-
-#include "railscreen.h"
+#include "railgridscreen.h"
 
 using namespace Qt::StringLiterals;
 
-QList<SlotText> RailScreen::shownReadings() const
+QMap<QString, Field> RailGridScreen::state() const
+{
+    const RailOrder order = input().order;
+    QMap<QString, Field> fields = RailScreen::state();
+    fields[u"OpMalha"_s] = {.checked = order == traits().malhaOrder || order == traits().loadOrder};
+    fields[u"OpIc"_s] = {.checked = order == traits().icOrder};
+    fields[u"OpPorc"_s] = {.checked = order == RailOrder::PorcDescending};
+    return fields;
+}
+
+void RailGridScreen::sortBy(RailOrder order)
+{
+    input().order = order;
+    rebuild();
+}
+
+void RailGridScreen::DBGrid1_Click()
+{
+    if (!hasReading())
+        session().boxes().message({{u"PRIMEIRO_LEITURA"_s}});
+}
+
+QList<SlotText> RailGridScreen::shownReadings() const
 {
     QList<SlotText> texts;
-    for (const RailRow &row : m_readings.value(m_kind).rows)
+    for (const RailRow &row : front().shown)
         texts.append({row.id, row.leitura});
     return texts;
 }
 
-bool RailScreen::mayRecord()
+bool RailGridScreen::mayRecord()
 {
     const auto refused = [this](const QString &why) {
         session().refuse({why});
@@ -30,13 +50,13 @@ bool RailScreen::mayRecord()
     return hasReading();
 }
 
-void RailScreen::btGravar_Click(int slot)
+void RailGridScreen::btGravar_Click(int slot)
 {
     if (mayRecord())
         writeSlotAfter(caption(u"Gravar"), caption(u"Deseja salvar?"), slot, shownReadings());
 }
 
-void RailScreen::btExcluir_Click(int slot)
+void RailGridScreen::btExcluir_Click(int slot)
 {
     QList<SlotText> texts = shownReadings();
     for (SlotText &text : texts)
@@ -52,10 +72,11 @@ static QString kindCaption(const RailScreenTraits &traits, int kind)
     return {};
 }
 
-void RailScreen::writeSlotAfter(const QString &title, const QString &question, int slot, const QList<SlotText> &texts)
+void RailGridScreen::writeSlotAfter(const QString &title, const QString &question, int slot,
+                                    const QList<SlotText> &texts)
 {
-    const QString kind = caption(kindCaption(m_traits, m_kind));
-    const QString target = u"%1 %2 · %3 · %4"_s.arg(caption(u"Gravação")).arg(slot).arg(kind, session().model());
+    const QString rails = caption(kindCaption(traits(), kind()));
+    const QString target = u"%1 %2 · %3 · %4"_s.arg(caption(u"Gravação")).arg(slot).arg(rails, session().model());
     session().boxes().ask({title, question + u'\n' + target}, [this, slot, texts](Answer answer) {
         if (answer != Answer::Yes)
             return;

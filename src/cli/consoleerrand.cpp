@@ -1,0 +1,101 @@
+#include "consoleerrand.h"
+
+#include "commandguard.h"
+#include "comparison.h"
+#include "json.h"
+#include "terminal.h"
+
+#include <tuple>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+ConsoleErrand::ConsoleErrand(CommonOptions options, ConsoleOptions console)
+    : Errand(std::move(options)), m_console(std::move(console))
+{
+}
+
+ConsoleErrand::ConsoleErrand(CommonOptions options, ConsoleOptions console, const QByteArray &reply)
+    : Errand(std::move(options), reply), m_console(std::move(console)), m_replayed(true)
+{
+}
+
+void ConsoleErrand::start()
+{
+    Errand::start();
+    if (isFinished())
+        return;
+    if (!m_replayed)
+        return connectToPhone();
+    session().adopt({}, options().model);
+    send();
+}
+
+void ConsoleErrand::connectedToPhone()
+{
+    if (!options().model.isEmpty())
+        session().chooseModel(options().model);
+    if (!session().isModelKnown())
+        return fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
+    send();
+}
+
+void ConsoleErrand::send()
+{
+    m_screen.setTolerance(m_console.tolerance);
+    m_screen.setCommand(m_console.command);
+    connect(&m_screen, &Screen::readingEnded, this, &ConsoleErrand::takeReply, Qt::QueuedConnection);
+    m_screen.read();
+    if (session().Status() != "3"_L1) // why was told when it was refused
+        finish(leavesPhoneAsItIs(m_console.command) ? ExitCode::Link : ExitCode::Usage);
+}
+
+void ConsoleErrand::takeReply()
+{
+    if (isFinished() || std::exchange(m_replied, true))
+        return;
+    if (m_screen.hasReading())
+        replied();
+    else
+        finish(ExitCode::Link);
+}
+
+void RecordErrand::replied()
+{
+    if (screen().isCut())
+        return finish(ExitCode::Incomplete);
+    connect(&screen(), &MasterScreen::recordingSaved, this, &RecordErrand::tellRecorded);
+    screen().btSalvar_Click();
+}
+
+/// What was read back from the store is what the phone sent.
+void RecordErrand::tellRecorded()
+{
+    const auto &row = screen().recording();
+    if (!row || row->recording.dados != screen().txtConsole())
+        return fail({{u"STORE_FAILED"_s, {session().store().path(), u"read back"_s}}}, ExitCode::Store);
+    const auto &[model, command] = std::tie(row->recording.aparelho, row->recording.comando);
+    const auto bytes = static_cast<qint64>(row->recording.dados.size());
+    if (options().json)
+        printOut(document({{u"model"_s, model},
+                           {u"command"_s, command},
+                           {u"bytes"_s, bytes},
+                           {u"messages"_s, messagesArray(messages())}}));
+    else
+        printOut(oneLine({{u"RECORDED"_s, {model, command, QString::number(bytes)}}}, language()) + u'\n');
+    finish(ExitCode::Good);
+}
+
+void CompareErrand::replied()
+{
+    const Comparison comparison{.model = session().model(),
+                                .command = console().command,
+                                .language = language(),
+                                .difference = screen().difference(),
+                                .summary = screen().summary(),
+                                .hasRecording = !screen().txtComparador().isEmpty(),
+                                .mark = screen().autoComparador(),
+                                .messages = messages()};
+    printOut(options().json ? document(toJson(comparison)) : readable(comparison));
+    finish(exitCodeFor(comparison.difference.verdict));
+}

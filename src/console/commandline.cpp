@@ -1,0 +1,64 @@
+#include "commandline.h"
+
+#include "commanddelegate.h"
+
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QStandardItemModel>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+static constexpr int kEntriesSeen = 20;
+
+CommandLine::CommandLine(const QString &name, QWidget *parent)
+    : QComboBox(parent), m_model(new QStandardItemModel(this))
+{
+    setObjectName(name);
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setMaxVisibleItems(kEntriesSeen);
+    setModel(m_model);
+    setItemDelegate(new CommandDelegate(this));
+    auto *completer = new QCompleter(m_model, this);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setMaxVisibleItems(kEntriesSeen);
+    completer->popup()->setItemDelegate(new CommandDelegate(completer));
+    setCompleter(completer);
+    connect(lineEdit(), &QLineEdit::returnPressed, this, &CommandLine::sendWanted);
+}
+
+void CommandLine::setCommands(const QList<CommandRow> &commands, Language language)
+{
+    const QString typed = currentText();
+    const auto column = static_cast<std::size_t>(language) - 1;
+    m_model->clear();
+    for (const CommandRow &command : commands) {
+        auto *item = new QStandardItem(command.comando);
+        item->setData(column < command.info.size() ? command.info[column] : QString(), CommandDelegate::Description);
+        item->setToolTip(item->data(CommandDelegate::Description).toString());
+        m_model->appendRow(item);
+    }
+    setCurrentIndex(-1);
+    setEditText(typed);
+}
+
+void CommandLine::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
+    if (plain && event->key() == Qt::Key_Up)
+        emit olderWanted();
+    else if (plain && event->key() == Qt::Key_Down)
+        emit newerWanted();
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+/// A wheel that passes by must not change the command.
+void CommandLine::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}

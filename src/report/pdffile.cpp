@@ -1,0 +1,68 @@
+#include "pdffile.h"
+
+#include <QFontDatabase>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kPoints = 10;
+constexpr double kCellPadding = 3;
+constexpr int kFirstColumn = 48; ///< per cent of a table's width
+
+void layOut(QTextTable &table)
+{
+    QTextTableFormat format = table.format();
+    format.setBorder(0.5);
+    format.setBorderCollapse(true);
+    format.setBorderBrush(Qt::lightGray);
+    format.setCellPadding(kCellPadding);
+    format.setHeaderRowCount(1); // also on the next page
+    format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+    if (table.columns() == 2)
+        format.setColumnWidthConstraints({QTextLength(QTextLength::PercentageLength, kFirstColumn),
+                                          QTextLength(QTextLength::PercentageLength, 100 - kFirstColumn)});
+    table.setFormat(format);
+}
+
+void layOutTables(const QTextDocument &document)
+{
+    const QList<QTextFrame *> frames = document.rootFrame()->childFrames();
+    for (QTextFrame *frame : frames)
+        if (auto *table = qobject_cast<QTextTable *>(frame))
+            layOut(*table);
+}
+
+Trouble notWritten(const QString &path, const QString &reason)
+{
+    return {{u"PDF_NOT_WRITTEN"_s, {path, reason}}};
+}
+
+} // namespace
+
+Result<Done> writePdf(const QString &markdown, const QString &title, const QString &path)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return notWritten(path, file.errorString());
+    QTextDocument document;
+    QFont face = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    face.setPointSizeF(kPoints);
+    document.setDefaultFont(face);
+    document.setMarkdown(markdown);
+    layOutTables(document);
+    {
+        QPdfWriter writer(&file);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setTitle(title);
+        writer.setCreator(u"Tavimo Prelt"_s);
+        document.print(&writer);
+    }
+    return file.commit() ? Result<Done>(Done{}) : notWritten(path, file.errorString());
+}
