@@ -44,6 +44,7 @@ constexpr Place kHouse[] = {
     {"prelt_console_forms"_L1, 9, 8},
     {"prelt_window"_L1, 10, 9},
     {"tavimo-prelt"_L1, 11, 10},
+    {"gallery"_L1, 11, 10},
     {"prelt"_L1, 11, 7},
     {"prelt_cli"_L1, 12, 7},
     {"prelt_sim"_L1, 12, 3},
@@ -51,10 +52,8 @@ constexpr Place kHouse[] = {
 
 /// Who may use what stands beside the line: the simulated phone, and the terminal's own pieces.
 constexpr std::pair<QLatin1StringView, QLatin1StringView> kBeside[] = {
-    {"prelt_cli"_L1, "prelt_sim"_L1},
-    {"prelt"_L1, "prelt_sim"_L1},
-    {"prelt"_L1, "prelt_cli"_L1},
-    {"tavimo-prelt"_L1, "prelt_sim"_L1},
+    {"prelt_cli"_L1, "prelt_sim"_L1},    {"prelt"_L1, "prelt_sim"_L1},   {"prelt"_L1, "prelt_cli"_L1},
+    {"tavimo-prelt"_L1, "prelt_sim"_L1}, {"gallery"_L1, "prelt_sim"_L1},
 };
 
 const Place *placeOf(const QString &target)
