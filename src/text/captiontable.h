@@ -24,9 +24,11 @@ CaptionTable screenCaptions();
 CaptionTable consoleCaptions();
 /// Words of the workbench itself: rail, findings, empty states, verdicts, sources.
 CaptionTable workbenchCaptions();
+/// Reports and what they are asked for with.
+CaptionTable reportCaptions();
 
 /// All of them in the order in which they are searched: the first row of a key decides.
-inline std::array<CaptionTable, 4> captionTables()
+inline std::array<CaptionTable, 5> captionTables()
 {
-    return {windowCaptions(), screenCaptions(), consoleCaptions(), workbenchCaptions()};
+    return {windowCaptions(), screenCaptions(), consoleCaptions(), workbenchCaptions(), reportCaptions()};
 }

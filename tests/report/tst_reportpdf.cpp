@@ -1,0 +1,154 @@
+#include "paging.h"
+#include "reportpdf.h"
+#include "reporttext.h"
+
+#include "columns.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QThread>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+static ReportDocument reportOf(qsizetype findings, Language language)
+{
+    ReportDocument report{.title = u"Relatório"_s, .model = u"IP 6s"_s, .language = language};
+    for (qsizetype n = 0; n < findings; ++n)
+        report.findings.append({.what = u"RAIL_%1"_s.arg(n), .reading = u"1.800 V"_s});
+    return report;
+}
+
+static QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class TestReportPdf : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void allThatWasFoundIsInIt_data()
+    {
+        columns<int, Language, QString>({"findings", "language", "verdict"});
+        QTest::newRow("nothing") << 0 << Language::English << u"Nothing was read or judged."_s;
+        QTest::newRow("one") << 1 << Language::Portuguese << u"Sem julgamento: 1"_s;
+        QTest::newRow("many pages") << 400 << Language::Spanish << u"Sin evaluación: 400"_s;
+    }
+
+    void allThatWasFoundIsInIt()
+    {
+        QFETCH(int, findings);
+        QFETCH(Language, language);
+        QFETCH(QString, verdict);
+        const ReportDocument report = reportOf(findings, language);
+        QTextDocument head;
+        layOutHead(head, report);
+        QVERIFY2(head.toPlainText().contains(verdict), qPrintable(head.toPlainText()));
+
+        const QString path = m_folder.filePath(u"all.pdf"_s);
+        QVERIFY(bool(writeReport(report, path)));
+        const QByteArray bytes = contents(path);
+        QVERIFY(bytes.trimmed().endsWith("%%EOF") && bytes.contains("/FontFile"));
+        QCOMPARE(bytes.count("/Type /Page\n") > 1, findings > 100);
+    }
+
+    void textsAreShownAsTheyAre_data()
+    {
+        columns<QString, QString>({"text", "shown"});
+        QTest::newRow("markup") << u"<b>R&amp;D</b>"_s << u"<b>R&amp;D</b>"_s;
+        QTest::newRow("control characters") << u"a\x1b[2Jb\x01\x7f"_s << u"a\\x1B[2Jb\\x01\\x7F"_s;
+        QTest::newRow("turned direction") << u"a\u202Eb"_s << u"a\\u202Eb"_s;
+        QTest::newRow("the mark of a drawing") << u"a\uFFFCb"_s << u"a\\uFFFCb"_s;
+        QTest::newRow("the end of a table") << u"a\uFDD1b"_s << u"a\\uFDD1b"_s;
+    }
+
+    void textsAreShownAsTheyAre()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, shown);
+        ReportDocument report{.title = text, .shop = text, .serial = text, .note = text, .language = Language::English};
+        report.findings.append({text, text, text, text, text, text, text, text, 1, 1, FindingVerdict::Fail});
+        QTextDocument head;
+        layOutHead(head, report);
+        QCOMPARE(head.toPlainText().count(shown), 4);
+        QTextDocument row;
+        layOutFinding(row, report.findings.first(), report.language);
+        QCOMPARE(row.toPlainText().count(shown), 8);
+        QCOMPARE(row.rootFrame()->childFrames().size(), 1);
+    }
+
+    void rowsAreNotTorn()
+    {
+        QTextDocument columns;
+        layOutColumns(columns, Language::English);
+        QTextDocument low;
+        QTextDocument tall;
+        layOutFinding(low, {.what = u"a"_s, .reading = {}}, Language::English);
+        layOutFinding(tall, {.what = QString(4000, u'W'), .reading = {}}, Language::English);
+        for (QTextDocument *part : {&columns, &low, &tall})
+            part->setTextWidth(600);
+        const double height = columns.size().height() + 1.5 * low.size().height();
+        Paging paging({600, height});
+        paging.placeOnEveryPage(columns);
+        paging.place(low);
+        paging.place(low);
+        QCOMPARE(paging.pages(), 2);
+        paging.place(tall);
+        QVERIFY(paging.pages() > 10);
+        for (int page = 0; page < paging.pages(); ++page)
+            QVERIFY(std::ranges::any_of(paging.slices(), [&](const Slice &slice) {
+                return slice.part == &columns && slice.page == page && slice.top == 0;
+            }));
+        for (const Slice &slice : paging.slices())
+            QVERIFY(slice.top + slice.height <= height + 0.01);
+    }
+
+    void logoStaysSmallAndMayBeMissing()
+    {
+        const QString logo = m_folder.filePath(u"logo.png"_s);
+        QImage picture(2000, 1000, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        QVERIFY(picture.save(logo));
+        ReportDocument report = reportOf(1, Language::English);
+        for (const QString &file : {logo, m_folder.filePath(u"none.png"_s)}) {
+            report.logoFile = file;
+            const QString path = m_folder.filePath(u"logo.pdf"_s);
+            QVERIFY(bool(writeReport(report, path)));
+            QCOMPARE(contents(path).contains("/Subtype /Image"), file == logo);
+        }
+    }
+
+    void isMadeInAWorker()
+    {
+        const QString path = m_folder.filePath(u"worker.pdf"_s);
+        const std::unique_ptr<QThread> worker(
+            QThread::create([&path] { Q_UNUSED(writeReport(reportOf(50, Language::English), path)) }));
+        worker->start();
+        QVERIFY(worker->wait());
+        QVERIFY(contents(path).trimmed().endsWith("%%EOF"));
+    }
+
+    void nothingIsLeftWhereItCannotBeWritten()
+    {
+        const Result<Done> refused = writeReport(reportOf(1, Language::English), m_folder.filePath(u"no/such.pdf"_s));
+        QVERIFY(!refused);
+        QCOMPARE(refused.trouble().what.key, u"PDF_NOT_WRITTEN"_s);
+        const Result<Done> folder = writeReport(reportOf(1, Language::English), m_folder.path());
+        QVERIFY(!folder);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(TestReportPdf)
+#include "tst_reportpdf.moc"
