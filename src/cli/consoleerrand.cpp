@@ -11,36 +11,16 @@
 using namespace Qt::StringLiterals;
 
 ConsoleErrand::ConsoleErrand(CommonOptions options, ConsoleOptions console)
-    : Errand(std::move(options)), m_console(std::move(console))
+    : ModelErrand(std::move(options)), m_console(std::move(console))
 {
 }
 
 ConsoleErrand::ConsoleErrand(CommonOptions options, ConsoleOptions console, const QByteArray &reply)
-    : Errand(std::move(options), reply), m_console(std::move(console)), m_replayed(true)
+    : ModelErrand(std::move(options), reply), m_console(std::move(console))
 {
 }
 
-void ConsoleErrand::start()
-{
-    Errand::start();
-    if (isFinished())
-        return;
-    if (!m_replayed)
-        return connectToPhone();
-    session().adopt({}, options().model);
-    send();
-}
-
-void ConsoleErrand::connectedToPhone()
-{
-    if (!options().model.isEmpty())
-        session().chooseModel(options().model);
-    if (!session().isModelKnown())
-        return fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
-    send();
-}
-
-void ConsoleErrand::send()
+void ConsoleErrand::begin()
 {
     m_screen.setTolerance(m_console.tolerance);
     m_screen.setCommand(m_console.command);

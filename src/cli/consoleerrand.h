@@ -1,7 +1,7 @@
 #pragma once
 
-#include "errand.h"
 #include "masterscreen.h"
+#include "modelerrand.h"
 
 /// What a command does with one command line and its reply.
 struct ConsoleOptions
@@ -12,7 +12,7 @@ struct ConsoleOptions
 };
 
 /// Sends a command line as the console does, to a phone or to a saved reply, and goes on with its reply.
-class ConsoleErrand : public Errand
+class ConsoleErrand : public ModelErrand
 {
     Q_OBJECT
 
@@ -20,21 +20,17 @@ public:
     ConsoleErrand(CommonOptions options, ConsoleOptions console);
     ConsoleErrand(CommonOptions options, ConsoleOptions console, const QByteArray &reply);
 
-    void start() override;
-
 protected:
+    void begin() override;
     MasterScreen &screen() { return m_screen; }
     const ConsoleOptions &console() const { return m_console; }
-    void connectedToPhone() override;
     /// The reply is here, whole or not.
     virtual void replied() = 0;
 
 private:
-    void send();
     void takeReply();
 
     ConsoleOptions m_console;
-    bool m_replayed = false;
     bool m_replied = false;
     MasterScreen m_screen{session()};
 };

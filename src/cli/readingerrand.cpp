@@ -7,13 +7,13 @@
 using namespace Qt::StringLiterals;
 
 ReadingErrand::ReadingErrand(CommonOptions options, ScreenOptions screenOptions)
-    : Errand(std::move(options)), m_screenOptions(std::move(screenOptions)), m_replayed(false)
+    : ModelErrand(std::move(options)), m_screenOptions(std::move(screenOptions))
 {
     makeScreen();
 }
 
 ReadingErrand::ReadingErrand(CommonOptions options, ScreenOptions screenOptions, const QByteArray &reply)
-    : Errand(std::move(options), reply), m_screenOptions(std::move(screenOptions)), m_replayed(true)
+    : ModelErrand(std::move(options), reply), m_screenOptions(std::move(screenOptions))
 {
     makeScreen();
 }
@@ -24,35 +24,8 @@ void ReadingErrand::makeScreen()
     connect(m_screen.get(), &Screen::readingEnded, this, &ReadingErrand::printReading, Qt::QueuedConnection);
 }
 
-void ReadingErrand::start()
+void ReadingErrand::begin()
 {
-    Errand::start();
-    if (isFinished())
-        return;
-    if (!m_replayed)
-        return connectToPhone();
-    session().adopt({}, options().model);
-    readScreen();
-}
-
-void ReadingErrand::connectedToPhone()
-{
-    if (!options().model.isEmpty())
-        session().chooseModel(options().model);
-    if (!session().isModelKnown()) // asking the phone again would only tell the same twice
-        return refuseWithoutModel();
-    readScreen();
-}
-
-void ReadingErrand::refuseWithoutModel()
-{
-    fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
-}
-
-void ReadingErrand::readScreen()
-{
-    if (std::exchange(m_reading, true))
-        return;
     m_screen->open();
     giveOptions(*m_screen, m_screenOptions);
     m_screen->read();

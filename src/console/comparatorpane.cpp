@@ -23,9 +23,7 @@ static constexpr int kMarkSide = 20;
 ComparatorPane::ComparatorPane(MasterScreen &screen, QWidget *parent)
     : QWidget(parent), m_screen(screen), m_txtComparador(new TextPane(u"txtComparador"_s))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing::unit);
+    auto *layout = controlColumn(this);
     layout->addWidget(head());
     layout->addWidget(m_txtComparador, 1);
     layout->addWidget(m_lbInfDados = named(new QLabel, u"lbInfDados"_s));
@@ -86,6 +84,8 @@ QWidget *ComparatorPane::buttons()
 
 void ComparatorPane::connectButtons()
 {
+    for (QPushButton *writer : {m_btSalvar, m_btSalvarAtualizacoes, m_btExcluir, m_command1, m_command2})
+        connect(writer, &QPushButton::clicked, this, &ComparatorPane::keepingAsked);
     connect(m_btSalvar, &QPushButton::clicked, &m_screen, &MasterScreen::btSalvar_Click);
     connect(m_btSalvarAtualizacoes, &QPushButton::clicked, this, &ComparatorPane::saveWanted);
     connect(m_btExcluir, &QPushButton::clicked, &m_screen, &MasterScreen::btExcluir_Click);

@@ -32,6 +32,8 @@ public:
 signals:
     void saveWanted();
     void maskWanted();
+    /// One of the buttons that write was pressed.
+    void keepingAsked();
 
 private:
     QWidget *head();

@@ -3,10 +3,7 @@
 #include "emptytext.h"
 #include "theme.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -36,6 +33,7 @@ DifferenceView::DifferenceView(QWidget *parent) : QTableView(parent)
         horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     setColumnWidth(DifferenceModel::Sign, kSignWidth);
     setColumnWidth(DifferenceModel::Change, kChangeWidth);
+    connect(&m_export, &TableExport::exportFailed, this, &DifferenceView::exportFailed);
 }
 
 void DifferenceView::showDifference(const ReplyDifference &difference)
@@ -47,6 +45,7 @@ void DifferenceView::showDifference(const ReplyDifference &difference)
 void DifferenceView::setLanguage(Language language)
 {
     m_model.setLanguage(language);
+    m_export.setLanguage(language);
 }
 
 void DifferenceView::setEmptyText(const QString &text)
@@ -102,12 +101,4 @@ void DifferenceView::paintEvent(QPaintEvent *event)
     QTableView::paintEvent(event);
     if (m_model.rowCount() == 0)
         paintEmptyText(*this, m_emptyText);
-}
-
-void DifferenceView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        QGuiApplication::clipboard()->setText(copyText());
-    else
-        QTableView::keyPressEvent(event);
 }

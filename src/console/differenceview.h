@@ -1,6 +1,7 @@
 #pragma once
 
 #include "differencemodel.h"
+#include "tableexport.h"
 
 #include <QTableView>
 
@@ -15,6 +16,8 @@ public:
     void showDifference(const ReplyDifference &difference);
     void setLanguage(Language language);
     void setEmptyText(const QString &text);
+    /// The name that the export suggests, without ending.
+    void setName(const QString &name) { m_export.setName(name); }
 
     /// The selected rows as text, without a selection all that differ.
     QString copyText() const;
@@ -23,13 +26,16 @@ public slots:
     void next();
     void previous();
 
+signals:
+    void exportFailed(const QString &path, const QString &reason);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void goTo(std::optional<qsizetype> row);
 
     DifferenceModel m_model;
+    TableExport m_export{*this, m_model, [this] { return copyText(); }};
     QString m_emptyText;
 };

@@ -31,9 +31,7 @@ HistoryPane::HistoryPane(MasterScreen &screen, QWidget *parent)
     head->addStretch();
     head->addWidget(m_lbHelp);
     head->addWidget(m_btCloseHistorico);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing::unit);
+    auto *layout = controlColumn(this);
     layout->addLayout(head);
     layout->addWidget(m_listCmd, 1);
     layout->addWidget(m_txtHelpAux, 1);

@@ -121,7 +121,6 @@ private:
 
     void loadMaintenance();
     bool mayChangeList();
-    bool askedFor(const QString &answer);
     void sendAfter(QStringView key, const QString &command);
 
     bool mayChangeRecording();

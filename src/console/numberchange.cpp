@@ -1,6 +1,6 @@
 #include "numberchange.h"
 
-#include <QStringView>
+#include "numbertext.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +12,7 @@ namespace {
 /// A number with what is written on to it: "37.5C", "80%".
 struct Number
 {
-    double value = 0;
-    int decimals = 0;
+    WrittenNumber digits;
     QStringView tail;
 };
 
@@ -21,14 +20,8 @@ std::optional<Number> numberOf(QStringView word)
 {
     const auto isPart = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.' || c == u'-' || c == u'+'; };
     const qsizetype length = std::ranges::find_if_not(word, isPart) - word.begin();
-    bool isNumber = false;
-    const QStringView digits = word.first(length);
-    const double value = digits.toDouble(&isNumber);
-    if (!isNumber)
-        return std::nullopt;
-    const qsizetype point = digits.indexOf(u'.');
-    const int decimals = point < 0 ? 0 : static_cast<int>(digits.size() - point - 1);
-    return Number{value, decimals, word.sliced(length)};
+    const auto digits = writtenNumber(word.first(length));
+    return digits ? std::optional(Number{*digits, word.sliced(length)}) : std::nullopt;
 }
 
 bool isUnit(QStringView word)
@@ -42,11 +35,11 @@ QString signedText(double number, int decimals)
     return text.startsWith(u'-') ? text : u'+' + text;
 }
 
-NumberChange changeOf(const Number &live, const Number &recorded, QStringView unit)
+NumberChange changeOf(const WrittenNumber &live, const WrittenNumber &recorded, QStringView tail, QStringView unit)
 {
     const double apart = live.value - recorded.value;
     NumberChange change{signedText(apart, std::max(live.decimals, recorded.decimals)), {}};
-    change.text += live.tail;
+    change.text += tail;
     if (isUnit(unit))
         (change.text += u' ') += unit;
     if (recorded.value == 0)
@@ -73,7 +66,7 @@ QList<NumberChange> numberChanges(const QString &live, const QString &recorded)
         const auto other = numberOf(then[i]);
         if (!one || !other || one->tail != other->tail)
             return {};
-        changes.append(changeOf(*one, *other, now.value(i + 1)));
+        changes.append(changeOf(one->digits, other->digits, one->tail, now.value(i + 1)));
     }
     return changes;
 }

@@ -42,9 +42,7 @@ zAjustes::zAjustes(Session &session, QWidget *parent)
     for (const Side side : {Side::Base, Side::Plus})
         panes->addWidget(paneFor(side));
     panes->setSizes({kHalf, kHalf});
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::control, Spacing::control, Spacing::control, Spacing::control);
-    layout->setSpacing(Spacing::control);
+    auto *layout = pageColumn(this);
     layout->addWidget(choiceRow());
     layout->addWidget(panes, 1);
     connectButtons();
@@ -96,9 +94,7 @@ QWidget *zAjustes::paneFor(Side side)
     foot->addWidget(pane.copy);
     foot->addStretch();
     auto *widget = new QWidget;
-    auto *layout = new QVBoxLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing::unit);
+    auto *layout = controlColumn(widget);
     layout->addWidget(pane.owner);
     layout->addWidget(pane.text, 1);
     layout->addLayout(foot);

@@ -1,7 +1,6 @@
 #include "drift.h"
 
-#include <QLocale>
-#include <QStringView>
+#include "numbertext.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +11,7 @@ namespace {
 
 struct Shown
 {
-    double value = 0;
-    int decimals = 0;
+    WrittenNumber number;
     QStringView unit;
 };
 
@@ -23,17 +21,14 @@ std::optional<Shown> shownValue(QStringView text)
     const qsizetype blank = text.indexOf(u' ');
     if (blank <= 0 || blank + 1 == text.size())
         return {};
-    const QString number = text.first(blank).toString().replace(u',', u'.');
-    const qsizetype point = number.indexOf(u'.');
-    bool isNumber = false;
-    const double value = QLocale::c().toDouble(number, &isNumber);
-    if (!isNumber)
+    const auto number = writtenNumber(text.first(blank).toString().replace(u',', u'.'));
+    if (!number)
         return {};
-    return Shown{value, point < 0 ? 0 : static_cast<int>(number.size() - point - 1), text.sliced(blank + 1)};
+    return Shown{*number, text.sliced(blank + 1)};
 }
 
 /// How far a value lies outside of what another one with fewer decimals may have been before it was cut.
-double beyond(double value, const Shown &coarse)
+double beyond(double value, const WrittenNumber &coarse)
 {
     const double end = coarse.value + std::copysign(std::pow(10, -coarse.decimals), coarse.value);
     const auto [low, high] = std::minmax(coarse.value, end);
@@ -42,7 +37,7 @@ double beyond(double value, const Shown &coarse)
     return value > high ? value - high : 0;
 }
 
-double difference(const Shown &now, const Shown &before)
+double difference(const WrittenNumber &now, const WrittenNumber &before)
 {
     // Zero is shown without decimals, however many are chosen.
     if (now.decimals == before.decimals || now.value == 0 || before.value == 0)
@@ -58,8 +53,8 @@ std::optional<double> drift(const QString &reading, const QString &recorded)
     const auto now = before ? shownValue(reading) : before;
     if (!now || !before || now->unit != before->unit)
         return {};
-    const double gap = difference(*now, *before);
-    if (before->value == 0)
+    const double gap = difference(now->number, before->number);
+    if (before->number.value == 0)
         return gap == 0 ? 0 : std::copysign(100, gap);
-    return gap / std::abs(before->value) * 100;
+    return gap / std::abs(before->number.value) * 100;
 }

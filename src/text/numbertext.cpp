@@ -121,3 +121,13 @@ double leadingNumber(const QString &text)
     }
     return QLocale::c().toDouble(trimmed.left(end));
 }
+
+std::optional<WrittenNumber> writtenNumber(QStringView text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(value))
+        return std::nullopt;
+    const qsizetype point = text.indexOf(u'.');
+    return WrittenNumber{value, point < 0 ? 0 : static_cast<int>(text.size() - point - 1)};
+}

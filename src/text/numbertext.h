@@ -26,3 +26,13 @@ QString withoutBlanks(const QString &text);
 
 /// The number at the start of a text, as the shell and the store write numbers; a text that holds none is 0.
 double leadingNumber(const QString &text);
+
+/// A number as it is written: its value, and how many digits stand behind its point.
+struct WrittenNumber
+{
+    double value = 0;
+    int decimals = 0;
+};
+
+/// The number that a text is, whole and with a "."; nothing when it is none.
+std::optional<WrittenNumber> writtenNumber(QStringView text);

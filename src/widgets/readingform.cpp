@@ -23,6 +23,22 @@ QHBoxLayout *controlRow(QWidget *parent)
     return layout;
 }
 
+QVBoxLayout *controlColumn(QWidget *parent)
+{
+    auto *layout = new QVBoxLayout(parent);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Spacing::unit);
+    return layout;
+}
+
+QVBoxLayout *pageColumn(QWidget *screen)
+{
+    auto *layout = new QVBoxLayout(screen);
+    layout->setContentsMargins(Spacing::control, Spacing::control, Spacing::control, Spacing::control);
+    layout->setSpacing(Spacing::control);
+    return layout;
+}
+
 static QHBoxLayout *choiceRow(const QList<QWidget *> &choices)
 {
     auto *row = controlRow();
@@ -38,9 +54,7 @@ static QHBoxLayout *choiceRow(const QList<QWidget *> &choices)
 
 void ReadingForm::layOut(const Parts &parts)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::control, Spacing::control, Spacing::control, Spacing::control);
-    layout->setSpacing(Spacing::control);
+    auto *layout = pageColumn(this);
     layout->addLayout(headRow(parts.buttons));
     layout->addLayout(choiceRow(parts.choices));
     layout->addWidget(m_hint = named(new QLabel, u"lbDica"_s));

@@ -6,6 +6,7 @@ class QHBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QVBoxLayout;
 class VerdictBadge;
 
 /// The form of a screen that reads the phone: verdict, title and buttons at the top, the choices, what to do next, the
@@ -53,3 +54,7 @@ private:
 
 /// A row of controls without margins of its own.
 QHBoxLayout *controlRow(QWidget *parent = nullptr);
+/// A column of controls without margins of its own.
+QVBoxLayout *controlColumn(QWidget *parent);
+/// The column that fills a screen.
+QVBoxLayout *pageColumn(QWidget *screen);

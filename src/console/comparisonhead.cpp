@@ -1,0 +1,78 @@
+#include "comparisonhead.h"
+
+#include "catalogue.h"
+#include "readingform.h"
+#include "theme.h"
+#include "verdictbadge.h"
+
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+static constexpr double kMostTolerance = 50;
+
+ComparisonHead::ComparisonHead(QWidget *parent)
+    : QWidget(parent),
+      m_badge(named(new VerdictBadge, u"Veredito"_s)),
+      m_lbTolerancia(named(new QLabel, u"lbTolerancia"_s)),
+      m_tolerancia(named(new QDoubleSpinBox, u"Tolerancia"_s)),
+      m_btAnteriorDif(named(new QToolButton, u"btAnteriorDif"_s)),
+      m_btProximaDif(named(new QToolButton, u"btProximaDif"_s)),
+      m_btDiferencas(named(new QPushButton, u"btDiferencas"_s))
+{
+    m_tolerancia->setRange(0, kMostTolerance);
+    m_tolerancia->setDecimals(1);
+    m_tolerancia->setSuffix(u" %"_s);
+    m_btAnteriorDif->setArrowType(Qt::UpArrow);
+    m_btProximaDif->setArrowType(Qt::DownArrow);
+    m_btDiferencas->setCheckable(true);
+    auto *summary = named(new QLabel, u"lbResumo"_s);
+    summary->setTextFormat(Qt::PlainText);
+    summary->setMinimumWidth(1); // a long one is cut, it does not widen the window
+    auto *lines = new QVBoxLayout;
+    lines->setSpacing(Spacing::unit);
+    lines->addWidget(named(new QLabel, u"lbDispositivo"_s));
+    lines->addWidget(summary);
+    auto *row = controlRow(this);
+    row->setSpacing(Spacing::group);
+    row->addWidget(m_badge);
+    row->addLayout(lines, 1);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_lbTolerancia, m_tolerancia, m_btAnteriorDif, m_btProximaDif,
+                                                          m_btDiferencas})
+        row->addWidget(part);
+    connect(m_tolerancia, &QDoubleSpinBox::valueChanged, this, &ComparisonHead::toleranceChosen);
+    connect(m_btDiferencas, &QPushButton::toggled, this, &ComparisonHead::showWayThrough);
+    connect(m_btDiferencas, &QPushButton::toggled, this, &ComparisonHead::differencesToggled);
+    connect(m_btProximaDif, &QToolButton::clicked, this, &ComparisonHead::nextWanted);
+    connect(m_btAnteriorDif, &QToolButton::clicked, this, &ComparisonHead::previousWanted);
+    showWayThrough(false);
+}
+
+void ComparisonHead::showWayThrough(bool shown)
+{
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_lbTolerancia, m_tolerancia, m_btAnteriorDif, m_btProximaDif})
+        part->setVisible(shown);
+}
+
+void ComparisonHead::setPanel(const Panel &panel)
+{
+    m_badge->setPanel(panel);
+}
+
+void ComparisonHead::Traducao_Form(Language language)
+{
+    m_badge->setLanguage(language);
+    m_lbTolerancia->setText(caption(u"Tolerância", language));
+    m_tolerancia->setAccessibleName(caption(u"Tolerância", language));
+    m_btDiferencas->setText(caption(u"Diferenças", language));
+    m_btDiferencas->setToolTip(caption(u"Diferenças", language) + "  (F7)"_L1);
+    m_btProximaDif->setToolTip(caption(u"Próxima diferença", language) + "  (F8)"_L1);
+    m_btProximaDif->setAccessibleName(caption(u"Próxima diferença", language));
+    m_btAnteriorDif->setToolTip(caption(u"Diferença anterior", language) + "  (Shift+F8)"_L1);
+    m_btAnteriorDif->setAccessibleName(caption(u"Diferença anterior", language));
+}
