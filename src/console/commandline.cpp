@@ -28,6 +28,8 @@ CommandLine::CommandLine(const QString &name, QWidget *parent)
     completer->setMaxVisibleItems(kEntriesSeen);
     completer->popup()->setItemDelegate(new CommandDelegate(completer));
     setCompleter(completer);
+    // The box would give a typed command the letter case that the list has for it.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &CommandLine::sendWanted);
 }
 

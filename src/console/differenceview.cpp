@@ -102,3 +102,11 @@ void DifferenceView::paintEvent(QPaintEvent *event)
     if (m_model.rowCount() == 0)
         paintEmptyText(*this, m_emptyText);
 }
+
+/// A difference that was gone to before the view was shown, or larger, stays in sight.
+void DifferenceView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    if (currentIndex().isValid())
+        scrollTo(currentIndex(), PositionAtCenter);
+}
