@@ -55,7 +55,11 @@ private:
 class ScriptedBoxes : public Boxes
 {
 public:
-    void message(const Trouble &trouble) override { keys.append(trouble.what.key); }
+    void message(const Trouble &trouble) override
+    {
+        keys.append(trouble.what.key);
+        arguments = trouble.what.arguments;
+    }
     void ask(const Question &question, std::function<void(Answer)> answered) override
     {
         questions.append(question.text);
@@ -67,6 +71,7 @@ public:
     }
 
     QStringList keys;
+    QStringList arguments; ///< of the last
     QStringList questions;
     Answer answer = Answer::Yes;
 };

@@ -12,51 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The buttons that a group of models changes, by the first characters of its name. The first row that fits decides.
-struct ButtonRow
-{
-    QLatin1StringView models;
-    std::array<BusButton, kBuses> buttons;
-};
-
-constexpr BusButton T = BusButton::Testable;
-constexpr BusButton D = BusButton::Disabled;
-constexpr BusButton H = BusButton::Hidden;
-
-constexpr std::array kButtons = {
-    ButtonRow{"IP 6"_L1, {T, T, T, H, H, H, H, H}}, ButtonRow{"IP 7 Plus"_L1, {T, T, T, D, T, D, H, H}},
-    ButtonRow{"IP 7"_L1, {T, T, T, T, T, D, H, H}}, ButtonRow{"IP 8"_L1, {T, D, T, T, T, D, T, T}},
-    ButtonRow{"IP X"_L1, {T, D, D, T, T, T, T, T}},
-};
-
-/// The parts that are likely to fail where a bus of a model has a silent device.
-struct FailureRow
-{
-    QLatin1StringView model;
-    int bus;
-    QLatin1StringView text;
-};
-
-constexpr std::array kFailures = {
-    FailureRow{"IP 6"_L1, 2, "J1110 - Flex Front Camera and Prox. Sensor Cable"_L1},
-    FailureRow{"IP 6 Plus"_L1, 2, "J1110 - Flex Front Camera and Prox. Sensor Cable"_L1},
-    FailureRow{"IP 7"_L1, 2, "J4503 - Flex Front Camera and Prox. Sensor Cable"_L1},
-    FailureRow{"IP 7"_L1, 3, "Display\r\n- Codec Audio\r\n- ..."_L1},
-    FailureRow{"IP 7"_L1, 4, "Flex Front Camera and Prox. Sensor Cable"_L1},
-    FailureRow{"IP 7 Plus"_L1, 2, "J4503 - Flex Front Camera and Sensor Prox. Cable"_L1},
-    FailureRow{"IP 7 Plus"_L1, 4, "Flex Front Camera and Sensor Prox. Cable"_L1},
-    FailureRow{"IP 8"_L1, 1, "DOCK"_L1},
-    FailureRow{"IP 8"_L1, 3, "DOCK"_L1},
-    FailureRow{"IP 8 Plus"_L1, 3, "0X51 - Codec Audio"_L1},
-};
-
-QString failureText(const QString &model, int bus)
-{
-    const auto row = std::ranges::find_if(
-        kFailures, [&](const FailureRow &failure) { return failure.model == model && failure.bus == bus; });
-    return row == kFailures.end() ? QString() : QString(row->text);
-}
-
 QString busName(int bus)
 {
     return u"I2C %1"_s.arg(bus);
@@ -115,7 +70,7 @@ void addDevice(Panel &panel, const Looked &looked, const I2CInput &input)
     const QString status = statusOf(looked.presence, input.language);
     const Verdict verdict = verdictOf(looked.presence);
     const QString likely =
-        looked.presence == Presence::Silent ? failureText(input.model, looked.device.bus) : QString();
+        looked.presence == Presence::Silent ? likelyFailure(input.model, looked.device.bus) : QString();
     panel.rows.append({.cells = {{u"Barramento"_s, busName(looked.device.bus)},
                                  {u"Endereço"_s, address},
                                  {u"Componente"_s, looked.device.name},
@@ -154,7 +109,7 @@ void addFailure(QString &failures, const BusReply &reply, const I2CInput &input)
 {
     if (!failures.isEmpty())
         failures += "\r\n\r\n"_L1;
-    failures += busName(reply.bus) + "\r\n- "_L1 + failureText(input.model, reply.bus);
+    failures += busName(reply.bus) + "\r\n- "_L1 + likelyFailure(input.model, reply.bus);
 }
 
 /// The list of an automatic run: the older groups part their buses by blank rows.
@@ -199,13 +154,6 @@ void showRun(Panel &panel, QStringList list, const QString &failures, const I2CI
 }
 
 } // namespace
-
-BusButton busButton(const QString &model, int bus)
-{
-    const auto row =
-        std::ranges::find_if(kButtons, [&](const ButtonRow &group) { return model.startsWith(group.models); });
-    return row == kButtons.end() ? BusButton::Testable : row->buttons.at(static_cast<std::size_t>(bus));
-}
 
 QList<BusDevice> answeringDevices(const BusReply &reply, const QList<BusDevice> &expected)
 {

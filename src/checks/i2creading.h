@@ -2,19 +2,8 @@
 
 #include "busdevices.h"
 #include "language.h"
+#include "modelbuses.h"
 #include "panel.h"
-
-inline constexpr int kBuses = 8;
-
-/// What a model makes of a bus's button.
-enum class BusButton
-{
-    Testable,
-    Disabled,
-    Hidden ///< and disabled
-};
-
-BusButton busButton(const QString &model, int bus);
 
 /// What a bus answered to its scan.
 struct BusReply

@@ -1,9 +1,12 @@
 #include "pdffile.h"
 
+#include "busdrawing.h"
+
 #include <QFontDatabase>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
@@ -39,6 +42,18 @@ void layOutTables(const QTextDocument &document)
             layOut(*table);
 }
 
+/// Every chapter but the first begins a page.
+void partChapters(const QTextDocument &document)
+{
+    for (QTextBlock block = document.begin().next(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (format.headingLevel() != 1)
+            continue;
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(block).setBlockFormat(format);
+    }
+}
+
 Trouble notWritten(const QString &path, const QString &reason)
 {
     return {{u"PDF_NOT_WRITTEN"_s, {path, reason}}};
@@ -51,12 +66,15 @@ Result<Done> writePdf(const QString &markdown, const QString &title, const QStri
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return notWritten(path, file.errorString());
+    BusDrawing maps; // outlives the document
     QTextDocument document;
     QFont face = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     face.setPointSizeF(kPoints);
     document.setDefaultFont(face);
     document.setMarkdown(markdown);
     layOutTables(document);
+    partChapters(document);
+    maps.addTo(document);
     {
         QPdfWriter writer(&file);
         writer.setPageSize(QPageSize(QPageSize::A4));

@@ -4,6 +4,7 @@
 #include "models.h"
 #include "phonebench.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -231,6 +232,20 @@ private slots:
         bench.screen.btI2C_Click(0);
         bench.gatherReply();
         QCOMPARE(bench.screen.reading().verdict, Verdict::Fail);
+    }
+
+    /// The diagram that opens is one that draws this model; one that is missing is told.
+    void diagramsOfTheModels()
+    {
+        const QDir guides(QStringLiteral(PRELT_SOURCE_DIR "/data/guides"));
+        for (const QString &model : modelNames()) {
+            BusBench bench(model);
+            bench.screen.btPdf_Click();
+            QCOMPARE(bench.boxes.keys, QStringList{u"GUIDE_MISSING"_s});
+            QFile source(guides.filePath(QFileInfo(bench.boxes.arguments.value(0)).completeBaseName() + u".md"_s));
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            QVERIFY(source.readAll().contains(u"{{map %1}}"_s.arg(model).toUtf8()));
+        }
     }
 
     void busThatTheModelLacksIsRefused()
