@@ -1,6 +1,7 @@
 #include "arguments.h"
 
 #include "models.h"
+#include "phoneprofile.h"
 #include "screentable.h"
 #include "storecommands.h"
 
@@ -202,6 +203,8 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
     CLI::App *compare = addCompare(app, arguments);
     CLI::App *sim = app.add_subcommand("sim", "run a simulated phone and print its device path");
     addText(*sim, "phone", arguments.text, "MODEL[,fault...], for example \"IP 7,ldo2=1200\"")->required();
+    sim->footer("Faults: " + faultHelp().toStdString() +
+                "\nRails and devices differ from model to model; a fault that is not known lists them all.");
 
     Commands commands{{ports, Arguments::Command::Ports},     {detect, Arguments::Command::Detect},
                       {send, Arguments::Command::Send},       {run, Arguments::Command::Run},

@@ -13,6 +13,7 @@ namespace {
 
 constexpr auto kScan = "i2c -s "_L1;
 constexpr auto kNoResponse = "ERROR: no response"_L1;
+constexpr auto kNoDisplay = "ERROR: no display"_L1;
 constexpr auto kNoDriver = "ERROR: Driver is missing!"_L1;
 
 bool isOldFamily(const QString &model)
@@ -144,7 +145,7 @@ QStringList storageInfo(const PhoneProfile &profile)
 QStringList displayMode(const PhoneProfile &profile)
 {
     if (profile.broken.contains(u"display"_s))
-        return {u"ERROR: no display"_s};
+        return {kNoDisplay};
     const bool isPlus = profile.model.endsWith("Plus"_L1);
     return {profile.model == "IP X"_L1 ? u"1125x2436"_s : isPlus ? u"1080x1920"_s : u"750x1334"_s};
 }
@@ -185,7 +186,8 @@ struct Part
 constexpr std::array kParts = {Part{"nand"_L1, "missing"_L1}, Part{"memory"_L1, "bad"_L1},
                                Part{"display"_L1, "off"_L1}};
 
-bool isSilentCommand(const QString &line)
+/// What is seen on the screen leaves no word.
+bool isDrawing(const QString &line)
 {
     const QString word = line.section(u' ', 0, 0);
     return word == "bl"_L1 || word == "displaytext"_L1;
@@ -197,8 +199,8 @@ std::optional<ShellAnswer> checkAnswer(const PhoneProfile &profile, const QStrin
 {
     if (line.startsWith(kScan))
         return ShellAnswer{.lines = scanLines(profile, line.sliced(kScan.size()))};
-    if (isSilentCommand(line))
-        return ShellAnswer{};
+    if (isDrawing(line))
+        return ShellAnswer{.lines = profile.broken.contains(u"display"_s) ? QStringList{kNoDisplay} : QStringList()};
     const QString option = line.section(u' ', 1);
     if (const Radio *radio = radioOf(profile, line); radio && isRadioOption(*radio, option))
         return ShellAnswer{.lines = {radioLine(profile, *radio, option)}};

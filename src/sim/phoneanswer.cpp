@@ -150,8 +150,9 @@ QByteArray answer(const PhoneProfile &profile, const QByteArray &command)
 {
     const QByteArray lineEnd = profile.crlf ? "\r\n" : "\n";
     QByteArray bytes = command + "\r\n";
+    const QByteArray noise = profile.garbage ? QByteArray("\x00\xFF\x1B~\x80", 5) : QByteArray();
     const QStringList lines = bodyLines(profile, QString::fromLatin1(command).simplified());
-    for (const QString &line : lines)
-        bytes += line.toLatin1() + lineEnd;
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        bytes += (i == 0 ? QByteArray() : noise) + lines.at(i).toLatin1() + lineEnd;
     return endsWithPrompt(command) ? bytes + promptOf(profile.model).toLatin1() : bytes;
 }

@@ -73,6 +73,12 @@ bool setCrlf(PhoneProfile &profile, const QString &value)
     return value.isEmpty();
 }
 
+bool setGarbage(PhoneProfile &profile, const QString &value)
+{
+    profile.garbage = true;
+    return value.isEmpty();
+}
+
 bool setBattery(PhoneProfile &profile, const QString &value)
 {
     profile.wornBattery = value == "worn"_L1;
@@ -91,6 +97,7 @@ constexpr FaultRow kFaults[] = {
     {"drop"_L1, "drop@BYTES"_L1, setDrop},
     {"silent"_L1, "silent"_L1, setSilent},
     {"crlf"_L1, "crlf"_L1, setCrlf},
+    {"garbage"_L1, "garbage"_L1, setGarbage},
     {"battery"_L1, "battery=worn"_L1, setBattery},
     {"tristar"_L1, "tristar=off"_L1, setPortChip},
 };
@@ -145,16 +152,23 @@ bool apply(PhoneProfile &profile, const Fault &fault)
     return breakPart(profile, fault.name, fault.value) || setRail(profile, fault);
 }
 
+QStringList faultForms()
+{
+    QStringList forms;
+    for (const FaultRow &row : kFaults)
+        forms.append(row.form);
+    return forms;
+}
+
+constexpr auto kRailForm = "RAIL=VALUE|off|timeout|missing, vbus=low"_L1;
+
 /// The faults that a phone of this model can have, as they are typed.
 QString knownFaults(const PhoneProfile &profile)
 {
-    QStringList known;
-    for (const FaultRow &row : kFaults)
-        known.append(row.form);
     QStringList outputs = pmuOutputs();
     outputs.removeIf([&](const QString &output) { return !profile.rails.contains(pmuLabel(output)); });
     const QStringList rails = outputs + chipOutputNames(profile);
-    return (known + partFaults(profile)).join(", "_L1) + ", RAIL=VALUE|off|timeout|missing; RAIL: "_L1 +
+    return (faultForms() + partFaults(profile)).join(", "_L1) + u", "_s + kRailForm + "; RAIL: "_L1 +
            rails.join(", "_L1);
 }
 
@@ -184,6 +198,13 @@ PhoneProfile healthy(const QString &model)
 }
 
 } // namespace
+
+QString faultHelp()
+{
+    QStringList parts = partFaults({}); // those that every model has
+    parts.append(u"i2cBUS:KEY=off (i2c1:75=off)"_s);
+    return (faultForms() + parts).join(", "_L1) + u", "_s + kRailForm;
+}
 
 Result<PhoneProfile> profileFor(const QString &text)
 {

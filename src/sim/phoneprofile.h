@@ -19,6 +19,7 @@ struct PhoneProfile
     std::optional<qsizetype> dropAt; ///< the line goes dead after so many bytes of a reply
     bool silent = false;
     bool crlf = false;
+    bool garbage = false; ///< noise on the line, between the lines of a reply
     bool touchOn = false; ///< the supply of the touch controller, off after a start
     bool wornBattery = false;
     bool portChipAnswers = true;
@@ -29,6 +30,9 @@ struct PhoneProfile
 /// The profile of a text "MODEL[,fault…]" such as "IP 7,ldo2=1200,crlf". Trouble names the part that is not known
 /// and lists what is.
 Result<PhoneProfile> profileFor(const QString &text);
+
+/// The faults that can be named, for a help text; rails and devices differ from model to model.
+QString faultHelp();
 
 /// What a command changes in the phone once it is answered.
 void obey(PhoneProfile &profile, const QByteArray &command);

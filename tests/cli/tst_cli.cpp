@@ -162,6 +162,40 @@ private slots:
         QTEST(findings.first().toObject().value(u"what"_s).toString(), "finding");
     }
 
+    /// A single fault of the phone is that finding and no other.
+    void testsOfTheParts_data()
+    {
+        columns<QString, int, QString>({"line", "code", "findings"});
+        const auto add = [](const char *what, const char *line, int code, const QString &findings) {
+            QTest::newRow(what) << QString::fromLatin1(line) << code << findings;
+        };
+        add("all buses", "run i2c --auto --port \"sim:IP 7\"", 0, {});
+        add("a silent device", "run i2c --auto --port \"sim:IP 7,i2c1:75=off\"", 1, u"I2C 1 0x75 Tigris (charger)"_s);
+        add("its bus alone", "run i2c --bus 1 --port \"sim:IP 7,i2c1:75=off\"", 1, u"I2C 1 0x75 Tigris (charger)"_s);
+        add("another bus", "run i2c --bus 0 --port \"sim:IP 7,i2c1:75=off\"", 0, {});
+        add("nothing is expected", "run i2c --auto --port \"sim:IP X\"", 0, {});
+        add("radio", "run rf --radio 2 --action on --port \"sim:IP 8,radio2=off\"", 1, u"Wifi"_s);
+        add("another radio", "run rf --radio 1 --action on --port \"sim:IP 8,radio2=off\"", 0, {});
+        add("a radio goes off", "run rf --radio 0 --action off --port \"sim:IP 6\"", 0, {});
+        add("storage", "run nand --test 3 --port \"sim:IP 7,nand=missing\"", 1, u"NAND"_s);
+        add("its size", "run nand --test 1 --port \"sim:IP 7\"", 0, {});
+        add("memory", "run memory --test 6 --port \"sim:IP X,memory=bad\"", 1, u"RAM"_s);
+        add("display is not judged", "run display --button bl:8 --port \"sim:IP 7,display=off\"", 0, {});
+        add("a refused colour", "run display --button Cor_Azul --port \"sim:IP 6s\"", 0, {});
+        add("noise on the line", "run buckldo --port \"sim:IP 7,garbage\"", 0, {});
+    }
+
+    void testsOfTheParts()
+    {
+        QFETCH(const QString, line);
+        const Outcome outcome = atHome(line + " --json"_L1);
+        QTEST(outcome.code, "code");
+        QStringList findings;
+        for (const auto &finding : outcome.json().value(u"findings"_s).toArray())
+            findings.append(finding.toObject().value(u"what"_s).toString());
+        QTEST(findings.join(u'|'), "findings");
+    }
+
     void refusedModelIsNoFault()
     {
         const Outcome outcome = atHome(u"run acorn --json --port \"sim:IP 7\""_s);
@@ -209,6 +243,11 @@ private slots:
         add("all bucks in one reply", u"judge bucktest --all --model \"IP 7\" --reply -"_s, 2, "--all");
         add("one buck and all", u"run bucktest --buck 5 --all --port 1"_s, 2, "--all");
         add("no such chip", u"run vcore --ic RAM --port 1"_s, 2, "--ic");
+        add("a bus or all", u"run i2c --port 1"_s, 2, "--bus");
+        add("no such bus", u"run i2c --bus 8 --port 1"_s, 2, "--bus");
+        add("no such radio", u"run rf --radio 4 --port 1"_s, 2, "--radio");
+        add("no such test", u"run nand --test 4 --port 1"_s, 2, "--test");
+        add("no such button", u"run display --button bl:6 --port 1"_s, 2, "bl:6");
         add("no such model", u"judge buckldo --model \"IP 9\" --reply -"_s, 2, "--model");
         add("nothing to send", u"send \" \" --port 1"_s, 2, "command");
         add("no phone and no reply", u"compare --command x"_s, 2, "--port or --reply");

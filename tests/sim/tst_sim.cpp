@@ -103,6 +103,9 @@ private slots:
         add("IP 7", gauge, "\nnominal-capacity: \"1715mAh\"\n", 1);
         add("IP 6s", gauge, "nominal-capacity", 0);
         add("IP 7,tristar=off", "tristar -p", "\nERROR\n", 1);
+        add("IP 7,garbage", tigris, "\x1B~\x80tigris ibus : ", 1); // noise lies between the lines
+        add("IP 7,garbage", "syscfg print RMd#", "\nA1660\n", 1);
+        add("IP 7,display=off", "displaytext -t a -b red -c white -w", "\nERROR: no display\n", 1);
         add("IP 7", "touch --on", "touch --on\r\n[", 1);
     }
 
@@ -195,6 +198,7 @@ private slots:
         QTest::newRow("IP 7,drop@-1") << u"drop@-1"_s << u"drop@BYTES"_s;
         QTest::newRow("IP 7,prompt=late") << u"prompt=late"_s << u"prompt=split"_s;
         QTest::newRow("IP 7,silent=yes") << u"silent=yes"_s << u"silent"_s;
+        QTest::newRow("IP 7,garbage=3") << u"garbage=3"_s << u", garbage,"_s;
         QTest::newRow("IP 7,model=") << u"model="_s << u"model=TEXT"_s;
     }
 
