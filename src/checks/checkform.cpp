@@ -1,5 +1,6 @@
 #include "checkform.h"
 
+#include "communication.h"
 #include "marklabel.h"
 #include "theme.h"
 
@@ -14,7 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr int kLastDigit = 9;
+/// With Alt: the digits, then the row of letters under them.
+static constexpr QStringView kKeys = u"1234567890QWERTYUIOP";
 
 CheckForm::CheckForm(std::unique_ptr<CheckScreen> screen, QWidget *parent)
     : ReadingForm(std::move(screen), parent), m_check(static_cast<CheckScreen &>(this->screen()))
@@ -26,12 +28,25 @@ QPushButton *CheckForm::testButton(const QString &name)
 {
     auto *button = named(new QPushButton, name);
     button->setMinimumHeight(Spacing::target);
-    if (++m_buttons > kLastDigit)
-        return button;
-    const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + m_buttons));
+    const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(kKeys[m_buttons++].unicode()));
     button->setToolTip(keys.toString(QKeySequence::NativeText));
     connect(new QShortcut(keys, this), &QShortcut::activated, button, &QPushButton::click);
     return button;
+}
+
+void CheckForm::paintPanel()
+{
+    QWidget *const before = window()->focusWidget();
+    ReadingForm::paintPanel();
+    if (before && isAncestorOf(before) && !before->isEnabled()) {
+        m_pressed = before;
+        m_standIn = window()->focusWidget();
+    }
+    if (!m_pressed || !m_pressed->isEnabled())
+        return;
+    if (window()->focusWidget() == m_standIn) // else the person has moved on
+        m_pressed->setFocus(Qt::OtherFocusReason);
+    m_pressed.clear();
 }
 
 QWidget *CheckForm::column(const QList<QWidget *> &controls)
@@ -67,9 +82,10 @@ QWidget *CheckForm::result(const QList<QWidget *> &above)
     return frame;
 }
 
-/// Streamed text is appended; who has scrolled back is not pulled to the end.
-static void append(QPlainTextEdit &box, const QString &text)
+/// Streamed text is appended, from its first word on; who has scrolled back is not pulled to the end.
+static void append(QPlainTextEdit &box, const QString &streamed)
 {
+    const QString text = box.document()->isEmpty() ? shownReply(streamed) : streamed;
     QScrollBar &bar = *box.verticalScrollBar();
     const bool follows = bar.value() == bar.maximum();
     QTextCursor cursor(box.document());

@@ -3,10 +3,12 @@
 #include "checkscreen.h"
 #include "readingform.h"
 
+#include <QPointer>
+
 class QPlainTextEdit;
 
 /// The form of a screen that sends one command at a time: buttons on the left, the result and the phone's words on the
-/// right. F5 repeats the last test, Alt and a digit press a button.
+/// right. F5 repeats the last test, Alt and a key of the upper rows press a button.
 class CheckForm : public ReadingForm
 {
     Q_OBJECT
@@ -18,8 +20,10 @@ public:
 
 protected:
     QStringView readHint() const override { return u"DICA_TESTE"; }
+    /// A button that cannot be pressed while its test runs has the focus again afterwards.
+    void paintPanel() override;
 
-    /// A button of a test by its control's name; the first nine answer to a digit.
+    /// A button of a test by its control's name; its tooltip tells its key.
     QPushButton *testButton(const QString &name);
     /// Buttons under one another.
     static QWidget *column(const QList<QWidget *> &controls);
@@ -40,5 +44,7 @@ private:
     QPlainTextEdit *m_txtComparador = nullptr;
     QLabel *m_ldDispComparador = nullptr;
     QPushButton *m_btComparador = nullptr;
-    int m_buttons = 0;
+    QPointer<QWidget> m_pressed; ///< lost the focus when it was disabled
+    QPointer<QWidget> m_standIn; ///< what has it meanwhile
+    qsizetype m_buttons = 0;
 };

@@ -56,7 +56,7 @@ Panel readDisplay(const DisplayInput &input)
     Panel panel;
     panel.screen = u"Displays"_s;
     panel.title = caption(u"Testes de Display", input.language) + " - Tavimo Prelt"_L1;
-    panel.fields[u"txtDados"_s].text = input.reply;
+    panel.fields[u"txtDados"_s].text = shownReply(input.reply);
     panel.fields[u"lbResolucao"_s].text = QString();
     const QString watch = caption(u"Observe a tela", input.language);
     const bool isMode = input.command == kLight[kModeButton];

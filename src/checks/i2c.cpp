@@ -34,7 +34,7 @@ I2C::I2C(Session &session, QWidget *parent)
     m_btPdf = named(new QPushButton, u"btPdf"_s);
     layOut({.note = u"lbAguarde"_s,
             .buttons = {m_btConhecido, m_btPdf, m_btAutoTeste},
-            .choices = {buttons(), nullptr, markNamed(u"OK"_s, Verdict::Pass), markNamed(u"NO"_s, Verdict::Fail)},
+            .choices = {buttons(), nullptr},
             .body = body()});
     painter().setRows(&m_rows);
     connectControls();
@@ -60,38 +60,58 @@ QWidget *I2C::body()
     return frame;
 }
 
+/// Shown at the end of a run in which everything that is expected answered.
+QWidget *I2C::goodResult()
+{
+    auto *frame = named(new QWidget, u"FrameResultadoOK"_s);
+    auto *row = controlRow(frame);
+    auto *mark = markNamed(u"MarcaOK"_s, Verdict::Pass);
+    mark->show();
+    row->addWidget(mark);
+    row->addWidget(m_lbOK = new QLabel, 1);
+    return frame;
+}
+
+QWidget *I2C::busResult()
+{
+    auto *lines = named(new QLabel, u"lbResultado"_s);
+    lines->setWordWrap(true);
+    auto *outcome = controlRow();
+    for (QWidget *mark : {markNamed(u"OK"_s, Verdict::Pass), markNamed(u"NO"_s, Verdict::Fail)})
+        outcome->addWidget(mark, 0, Qt::AlignTop);
+    outcome->addWidget(lines, 1);
+    auto *frame = named(new QGroupBox, u"FrameI2C"_s);
+    auto *layout = new QVBoxLayout(frame);
+    layout->addLayout(outcome);
+    layout->addWidget(replyBox(), 1);
+    return frame;
+}
+
+QWidget *I2C::runResult()
+{
+    auto *frame = named(new QWidget, u"FrameAutoI2C"_s);
+    auto *layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_lbAuto = new QLabel);
+    layout->addWidget(m_listView = named(new LineList, u"ListView"_s), 1);
+    return frame;
+}
+
 QWidget *I2C::results()
 {
     m_lbfalhas = named(new QLabel, u"lbfalhas"_s);
     m_txtDadosI2C = named(new QLabel, u"txtDadosI2C"_s);
     m_txtDadosI2C->setWordWrap(true);
     m_txtDadosI2C->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *good = named(new QWidget, u"FrameResultadoOK"_s);
-    auto *goodRow = controlRow(good);
-    auto *mark = markNamed(u"MarcaOK"_s, Verdict::Pass);
-    mark->show();
-    goodRow->addWidget(mark);
-    goodRow->addWidget(m_lbOK = new QLabel, 1);
-    auto *bus = named(new QGroupBox, u"FrameI2C"_s);
-    auto *busLayout = new QVBoxLayout(bus);
-    auto *lines = named(new QLabel, u"lbResultado"_s);
-    lines->setWordWrap(true);
-    busLayout->addWidget(lines);
-    busLayout->addWidget(replyBox(), 1);
-    auto *run = named(new QWidget, u"FrameAutoI2C"_s);
-    auto *runLayout = new QVBoxLayout(run);
-    runLayout->setContentsMargins(0, 0, 0, 0);
-    runLayout->addWidget(m_lbAuto = new QLabel);
-    runLayout->addWidget(m_listView = named(new LineList, u"ListView"_s), 1);
     auto *frame = new QWidget;
     frame->setFixedWidth(kSideWidth);
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_lbfalhas);
     column->addWidget(m_txtDadosI2C);
-    column->addWidget(good);
-    column->addWidget(bus, 1);
-    column->addWidget(run, 1);
+    column->addWidget(goodResult());
+    column->addWidget(busResult(), 1);
+    column->addWidget(runResult(), 1);
     return frame;
 }
 

@@ -24,6 +24,9 @@ private:
     QWidget *buttons();
     QWidget *body();
     QWidget *results();
+    QWidget *goodResult();
+    QWidget *busResult();
+    QWidget *runResult();
     void connectControls();
 
     I2CScreen &m_buses;

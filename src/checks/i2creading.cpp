@@ -133,7 +133,7 @@ void showBus(Panel &panel, const BusReply &reply, const QList<Looked> &looked, L
             panel.fields[device.presence == Presence::Answers ? u"OK"_s : u"NO"_s].visible = true;
     }
     panel.fields[u"lbResultado"_s].text = lines.join("\r\n\r\n"_L1);
-    panel.fields[u"txtDados"_s].text = reply.reply;
+    panel.fields[u"txtDados"_s].text = shownReply(reply.reply);
 }
 
 void showRun(Panel &panel, QStringList list, const QString &failures, const I2CInput &input)

@@ -158,7 +158,7 @@ Panel readNand(const NandInput &input)
     panel.fields[u"lbNand"_s].text = input.lbNand;
     panel.fields[u"lbStatus"_s].text = QString();
     panel.fields[u"lbStatus2"_s] = {.text = caption(u"ANALISE COMPLETA", input.language), .visible = false};
-    panel.fields[u"txtDados"_s].text = input.reply;
+    panel.fields[u"txtDados"_s].text = shownReply(input.reply);
     hideMarks(panel);
     listRails(panel, input);
     if (!input.isWhole)

@@ -47,7 +47,7 @@ Panel readMemory(const MemoryInput &input)
     if (isShown)
         panel.fields[u"lbStatus2"_s].text = test->part.toString();
     const QString note = isShown && input.isRunning ? caption(test->note, input.language) : QString();
-    panel.fields[u"txtDados"_s].text = input.reply.isEmpty() ? note : input.reply;
+    panel.fields[u"txtDados"_s].text = input.reply.isEmpty() ? note : shownReply(input.reply);
     if (!test || !input.isWhole)
         return panel;
     const bool passed = input.reply.contains(kPassed);

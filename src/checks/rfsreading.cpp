@@ -60,7 +60,8 @@ static void judge(Panel &panel, const RadioInput &input)
     panel.fields[u"lbStatus2"_s] = {.text = asked.name.toString() + "\r\n"_L1 + status, .visible = true};
     panel.fields[asked.field].back = colourOf(isUp ? RadioState::Up : RadioState::Silent);
     if (!isUp)
-        panel.fields[u"txtDados"_s].text = input.reply + u"\r\n\r\n"_s + caption(u"REPITA PROCESSO", input.language);
+        panel.fields[u"txtDados"_s].text =
+            shownReply(input.reply) + u"\r\n\r\n"_s + caption(u"REPITA PROCESSO", input.language);
     addCommunication(panel,
                      {asked.name.toString(), isUp, input.cut, tellingLine(input.radio, input.reply), input.language});
 }
@@ -82,7 +83,7 @@ Panel readRadio(const RadioInput &input)
         panel.fields[kTable[i].field] = {.text = kTable[i].name.toString(), .back = colourOf(input.states[i])};
     panel.fields[u"lbStatius"_s].text = QString();
     panel.fields[u"lbStatus2"_s] = {.text = QString(), .visible = false};
-    panel.fields[u"txtDados"_s].text = input.reply;
+    panel.fields[u"txtDados"_s].text = shownReply(input.reply);
     hideMarks(panel);
     if (input.isWhole && input.action == RadioAction::On)
         judge(panel, input);

@@ -1,6 +1,7 @@
 #include "icreading.h"
 
 #include "catalogue.h"
+#include "communication.h"
 #include "models.h"
 
 using namespace Qt::StringLiterals;
@@ -21,30 +22,21 @@ static QString answerIn(const QString &reply)
 static void judge(Panel &panel, const PortChipInput &input)
 {
     const bool answers = input.reply.size() >= kShortestAnswer;
-    const QString status = caption(answers ? u"COMUNICAÇÃO OK" : u"COMUNICAÇÃO OFF", input.language);
     const QString chip = portChip(input.model);
-    panel.verdict = answers ? Verdict::Pass : Verdict::Fail;
-    panel.fields[u"lbStatus"_s].text = status;
+    panel.fields[u"lbStatus"_s].text = communicationText(answers, input.language);
     panel.fields[u"lbIC"_s].text = chip;
-    panel.fields[u"OK"_s] = {.text = u"OK"_s, .visible = answers};
-    panel.fields[u"NO"_s] = {.text = caption(u"Falha", input.language), .visible = !answers};
     panel.fields[u"lbStatus2"_s].visible = true;
-    panel.facts.append({{{u"Dado"_s, chip}, {u"Leitura"_s, status}}, {}, {}, panel.verdict});
-    panel.judgements.append({chip, status, {}, {}, {}, {}, panel.verdict, panel.screen, answerIn(input.reply)});
+    addCommunication(panel, {chip, answers, input.cut, answerIn(input.reply), input.language});
+    panel.fields[u"OK"_s].text = u"OK"_s;
+    panel.fields[u"NO"_s].text = caption(u"Falha", input.language);
 }
 
 static void tellGap(Panel &panel, const PortChipInput &input)
 {
-    panel.verdict = Verdict::Incomplete;
-    panel.judgements.append({portChip(input.model),
-                             caption(u"Sem Medição", input.language),
-                             {},
-                             {},
-                             {},
-                             {},
-                             panel.verdict,
-                             panel.screen,
-                             answerIn(input.reply)});
+    addFact(panel, {.what = portChip(input.model),
+                    .reading = caption(u"Sem Medição", input.language),
+                    .verdict = Verdict::Incomplete,
+                    .line = answerIn(input.reply)});
 }
 
 Panel readIC(const PortChipInput &input)
@@ -56,12 +48,10 @@ Panel readIC(const PortChipInput &input)
     panel.fields[u"lbStatus2"_s] = {.text = caption(u"ANALISE COMPLETA", input.language), .visible = false};
     for (const auto &label : {u"lbStatus"_s, u"lbIC"_s})
         panel.fields[label].text = QString();
-    for (const auto &mark : {u"OK"_s, u"NO"_s})
-        panel.fields[mark].visible = false;
+    hideMarks(panel);
     if (input.reply.size() > kNoPortChipReply)
         judge(panel, input);
     else if (!input.reply.isEmpty())
         tellGap(panel, input);
-    neverGoodWhenCut(panel, input.cut);
     return panel;
 }

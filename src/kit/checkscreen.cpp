@@ -117,7 +117,7 @@ void CheckScreen::Timer1_Timer()
     if (!m_timer1.isActive() || session().Status() != "1"_L1)
         return;
     ++m_ticks;
-    if (!m_delivery.reply.isEmpty())
+    if (hasArrived(m_delivery.reply))
         judge();
     else if (m_ticks >= kTickLimit)
         end();

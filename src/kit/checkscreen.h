@@ -71,6 +71,8 @@ protected:
     /// What the last reply gave; without one an empty reading.
     virtual Panel makeReading() const = 0;
     virtual QMap<QString, Field> state() const { return waitState(); }
+    /// Whether this much of a reply is one that can be judged.
+    virtual bool hasArrived(const QString &reply) const { return !reply.isEmpty(); }
     /// The command goes out: what the one before left is cleared.
     virtual void askBegan() {}
     /// The reply was judged; the panel of it is in `reading()`.

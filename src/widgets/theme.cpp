@@ -88,7 +88,9 @@ static QString styleSheetOf(const Theme &theme)
     static constexpr auto kSheet = R"(
 QPushButton { min-height: 22px; padding: 4px 12px; border: 1px solid @border; border-radius: 4px;
     background: @surface; color: @accent; }
-QPushButton:hover, QPushButton:focus { border-color: @accent; }
+QPushButton:hover { border-color: @accent; }
+QPushButton:focus { border: 2px solid @accent; padding: 3px 11px; }
+QPushButton[primary="true"]:focus, QPushButton:checked:focus { border-color: @text; }
 QPushButton:pressed, QPushButton:checked { background: @accent; color: @onAccent; }
 QPushButton[primary="true"] { background: @accent; color: @onAccent; font-weight: bold; }
 QPushButton:disabled, QPushButton[primary="true"]:disabled { background: @window; color: @dim;

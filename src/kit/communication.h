@@ -16,6 +16,9 @@ struct Communication
 /// "COMUNICAÇÃO OK" or "COMUNICAÇÃO OFF" in the user's language.
 QString communicationText(bool answers, Language language);
 
+/// A reply as it is shown: without the line ends before its first word.
+QString shownReply(const QString &reply);
+
 /// Shows the mark of the answer and judges it. What was cut before its end is said to be, and counts as not
 /// measured.
 void addCommunication(Panel &panel, const Communication &communication);

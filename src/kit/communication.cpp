@@ -2,11 +2,19 @@
 
 #include "catalogue.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 QString communicationText(bool answers, Language language)
 {
     return caption(answers ? u"COMUNICAÇÃO OK" : u"COMUNICAÇÃO OFF", language);
+}
+
+QString shownReply(const QString &reply)
+{
+    const auto begin = std::ranges::find_if_not(reply, [](QChar c) { return c == u'\r' || c == u'\n'; });
+    return reply.sliced(begin - reply.begin());
 }
 
 void addFact(Panel &panel, const Judgement &fact)
