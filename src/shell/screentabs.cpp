@@ -5,7 +5,6 @@
 #include "icons.h"
 #include "moduletable.h"
 #include "plaintext.h"
-#include "plannedform.h"
 
 #include <QMouseEvent>
 #include <QShortcut>
@@ -59,15 +58,11 @@ void ScreenTabs::open(const QString &name)
 
 void ScreenTabs::add(const QString &name)
 {
-    const Module *module = moduleNamed(name);
-    if (!module)
-        return;
     ScreenForm *form = makeForm(name, m_session);
-    QWidget *page = form ? static_cast<QWidget *>(form) : new PlannedForm(*module, m_session);
-    addTab(page, QString());
-    Traducao_Form();
     if (!form)
         return;
+    addTab(form, QString());
+    Traducao_Form();
     form->CarregaDados();
     emit formOpened(form);
 }

@@ -26,8 +26,6 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"Chips", u"Chips", u"Chips", u"Chips"},
     {u"Testes", u"Testes", u"Tests", u"Pruebas"},
     {u"Ferramentas", u"Ferramentas", u"Tools", u"Herramientas"},
-    {u"Ainda não disponível nesta versão", u"Ainda não disponível nesta versão", u"Not yet available in this version",
-     u"Aún no disponible en esta versión"},
 
     // Findings and verdicts
     {u"Achados", u"Achados", u"Findings", u"Hallazgos"},
