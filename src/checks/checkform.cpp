@@ -30,7 +30,10 @@ QPushButton *CheckForm::testButton(const QString &name)
     button->setMinimumHeight(Spacing::target);
     const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(kKeys[m_buttons++].unicode()));
     button->setToolTip(keys.toString(QKeySequence::NativeText));
-    connect(new QShortcut(keys, this), &QShortcut::activated, button, &QPushButton::click);
+    connect(new QShortcut(keys, this), &QShortcut::activated, button, [button] {
+        button->setFocus(Qt::ShortcutFocusReason); // so that Tab goes on from here
+        button->click();
+    });
     return button;
 }
 

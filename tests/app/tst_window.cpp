@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -215,6 +216,39 @@ private slots:
         QVERIFY(bench.control<QPushButton>(u"btOutraTela"_s)->isVisible());
         bench.click(u"btOutraTela"_s);
         QCOMPARE(bench.front(), u"Chestnut"_s);
+    }
+
+    /// The key in a button's tooltip sends its command, and a button that was disabled meanwhile has the focus again.
+    void testsNeedNoMouse()
+    {
+        Bench bench;
+        bench.connectTo(u"sim:IP 8"_s);
+        QTRY_VERIFY(bench.session.isReady() && bench.session.isModelKnown());
+        int tests = 0;
+        for (const auto &name : {u"I2C"_s, u"RFs"_s, u"Nand"_s, u"Displays"_s, u"Outros"_s}) {
+            bench.window.openScreen(name);
+            for (auto *button : bench.control<ScreenForm>(name)->findChildren<QPushButton *>()) {
+                const QKeySequence keys = QKeySequence::fromString(button->toolTip(), QKeySequence::NativeText);
+                if (keys.count() != 1 || !button->isEnabled())
+                    continue;
+                const bool opensAnother =
+                    button->objectName() == "btBl(7)"_L1 || button->objectName() == "btBateria"_L1;
+                QSignalSpy clicked(button, &QPushButton::clicked);
+                bench.window.activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+                QTest::keyClick(&bench.window, keys[0].key(), keys[0].keyboardModifiers());
+                const QString what = u"%1 %2: %3"_s.arg(name, button->objectName()).arg(clicked.size());
+                QVERIFY2(clicked.size() == 1, qPrintable(what));
+                if (QMessageBox *box = bench.box())
+                    box->reject();
+                bench.window.openScreen(name);
+                QTRY_VERIFY_WITH_TIMEOUT(bench.session.isReady(), 20000);
+                if (!opensAnother)
+                    QTRY_COMPARE(bench.window.focusWidget(), button);
+                ++tests;
+            }
+        }
+        QVERIFY(tests > 40);
     }
 
     void languageReachesOpenForms_data()
