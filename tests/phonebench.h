@@ -98,7 +98,7 @@ struct PhoneBench
         session->TimerValidaPorta_Timer();
     }
     /// Polls until the link is idle.
-    void gatherReply()
+    void gatherReply() const
     {
         session->Timer1_Timer();
         for (int poll = 0; poll < 400 && session->Status() != "1"_L1; ++poll)

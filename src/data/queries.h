@@ -76,6 +76,24 @@ inline constexpr Query kRailsOfNet{"RailsOfNet",
     "Select rowid, * from Master Where Modelo = :model and Malha = :net"};
 inline constexpr Query kRailSources{"RailSources",
     "Select Orig, Confidence, Source from RailSources Where Modelo = :model and TIPO = :kind"};
+// A taken reference counts as long as the row still holds it.
+inline constexpr Query kTakenReferences{"TakenReferences",
+    "Select Orig, RefV, Source from TakenReferences Where Modelo = :model and TIPO = :kind"};
+inline constexpr Query kTakeReference{"TakeReference",
+    "Update Master set RefV = :reference, REF = case when :reference = '' then '' else :reference || ' V' end Where rowid = :id and (RefV = '' or exists ("
+    "Select 1 from TakenReferences t Where t.Modelo = :model and t.TIPO = :kind and t.Orig = :output "
+    "and t.RefV = Master.RefV))"};
+inline constexpr Query kDropTaken{"DropTaken",
+    "Delete from TakenReferences Where Modelo = :model and TIPO = :kind and Orig = :output"};
+inline constexpr Query kAddTaken{"AddTaken",
+    "Insert into TakenReferences (Modelo, TIPO, Orig, RefV, Source) "
+    "values (:model, :kind, :output, :reference, :source)"};
+inline constexpr Query kGoodReadings{"GoodReadings",
+    "Select TIPO, Orig, Board, Volts from GoodBoards Where Modelo = :model order by Board, rowid"};
+inline constexpr Query kAddGoodReading{"AddGoodReading",
+    "Insert into GoodBoards (Modelo, TIPO, Orig, Board, Volts) values (:model, :kind, :output, :board, :volts)"};
+inline constexpr Query kDropGoodBoard{"DropGoodBoard",
+    "Delete from GoodBoards Where Modelo = :model and Board = :board"};
 // Rows that are empty already stay untouched: a store with nothing to clear is not written.
 inline constexpr Query kClearReadings{"ClearReadings",
     "Update Master set Leitura = '', PORC = '' Where Leitura <> '' or PORC <> ''"};

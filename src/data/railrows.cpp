@@ -61,6 +61,22 @@ Result<QHash<QString, Origin>> origins(const Store &store, const RailFilter &fil
     return byOutput;
 }
 
+struct Taken
+{
+    QString refV;
+    QString source;
+};
+
+/// The references that were taken from boards, by output. A store that was made before this was kept has none.
+QHash<QString, Taken> takenReferences(const Store &store, const RailFilter &filter)
+{
+    QHash<QString, Taken> byOutput;
+    Result<QSqlQuery> query = store.run(kTakenReferences, keysOf(filter));
+    while (query && query->next())
+        byOutput.insert(query->value(0).toString().toLower(), {query->value(1).toString(), query->value(2).toString()});
+    return byOutput;
+}
+
 RailRow rowAt(const QSqlQuery &query)
 {
     RailRow row;
@@ -73,22 +89,29 @@ RailRow rowAt(const QSqlQuery &query)
     return row;
 }
 
+RailRow withOrigin(RailRow row, const QHash<QString, Origin> &known, const QHash<QString, Taken> &takenByOutput)
+{
+    const QString output = row.orig.toLower();
+    const Origin origin = known.value(output);
+    const Taken taken = takenByOutput.value(output);
+    row.isTaken = !row.refV.isEmpty() && taken.refV == row.refV;
+    row.source = row.isTaken ? taken.source : origin.source;
+    row.confidence = row.isTaken ? QString() : origin.confidence;
+    return row;
+}
+
 Result<QList<RailRow>> rowsOf(const Store &store, const Query &query, const RailFilter &filter)
 {
     const Result<QHash<QString, Origin>> known = origins(store, filter);
     if (!known)
         return known.trouble();
+    const QHash<QString, Taken> taken = takenReferences(store, filter);
     Result<QSqlQuery> rails = store.run(query, keysOf(filter));
     if (!rails)
         return rails.trouble();
     QList<RailRow> rows;
-    while (rails->next()) {
-        RailRow row = rowAt(*rails);
-        const Origin origin = known->value(row.orig.toLower());
-        row.source = origin.source;
-        row.confidence = origin.confidence;
-        rows += row;
-    }
+    while (rails->next())
+        rows += withOrigin(rowAt(*rails), *known, taken);
     if (rails->lastError().isValid())
         return store.trouble(*rails);
     return rows;

@@ -24,6 +24,7 @@ struct RailRow
     std::array<QString, 3> g; ///< the technician's recorded readings
     QString source;           ///< where the reference comes from
     QString confidence;       ///< "high", "medium", "low", or empty when not known
+    bool isTaken = false;     ///< the reference was taken from the technician's own boards
 
     friend bool operator==(const RailRow &, const RailRow &) = default;
 };

@@ -15,6 +15,8 @@ constexpr SchemaTable kTables[] = {
     {"Tools"_L1, "Idioma Nome syncbd"_L1},
     {"Ultimo"_L1, "Modelo"_L1},
     {"RailSources"_L1, "Modelo TIPO Orig Confidence Source"_L1, "Modelo, TIPO, Orig"_L1, SchemaTable::Origin::Added},
+    {"TakenReferences"_L1, "Modelo TIPO Orig RefV Source"_L1, "Modelo, TIPO, Orig"_L1, SchemaTable::Origin::Added},
+    {"GoodBoards"_L1, "Modelo TIPO Orig Board Volts"_L1, "Modelo, TIPO, Orig, Board"_L1, SchemaTable::Origin::Added},
     {"Settings"_L1, "Name Value"_L1, "Name"_L1, SchemaTable::Origin::Added},
     {"DeviceSources"_L1, "Aparelho i Source"_L1, "Aparelho, i"_L1, SchemaTable::Origin::Added},
     {"RecordingHash"_L1, "Aparelho Comando Sha256"_L1, "Aparelho, Comando"_L1, SchemaTable::Origin::Added},

@@ -12,6 +12,7 @@
 #include "nand.h"
 #include "outros.h"
 #include "pmu.h"
+#include "referencias.h"
 #include "rfs.h"
 #include "rfs_esq.h"
 #include "tigris.h"
@@ -39,15 +40,25 @@ struct FormEntry
 };
 
 constexpr std::array kForms = {
-    FormEntry{"BuckLdo"_L1, make<BuckLdo>}, FormEntry{"VCores"_L1, make<VCores>},
-    FormEntry{"PMU"_L1, make<PMU>},         FormEntry{"BuckTeste"_L1, make<BuckTeste>},
-    FormEntry{"Tristar"_L1, make<Tristar>}, FormEntry{"Tigris"_L1, make<Tigris>},
-    FormEntry{"Acorn"_L1, make<Acorn>},     FormEntry{"Chestnut"_L1, make<Chestnut>},
-    FormEntry{"Bateria"_L1, make<Bateria>}, FormEntry{"IC"_L1, make<IC>},
-    FormEntry{"Master"_L1, make<Master>},   FormEntry{"zAjustes"_L1, make<zAjustes>},
-    FormEntry{"I2C"_L1, make<I2C>},         FormEntry{"Displays"_L1, make<Displays>},
-    FormEntry{"RFs"_L1, make<RFs>},         FormEntry{"RFs_Esq"_L1, make<RFs_Esq>},
-    FormEntry{"Nand"_L1, make<Nand>},       FormEntry{"Outros"_L1, make<Outros>},
+    FormEntry{"BuckLdo"_L1, make<BuckLdo>},
+    FormEntry{"VCores"_L1, make<VCores>},
+    FormEntry{"PMU"_L1, make<PMU>},
+    FormEntry{"BuckTeste"_L1, make<BuckTeste>},
+    FormEntry{"Tristar"_L1, make<Tristar>},
+    FormEntry{"Tigris"_L1, make<Tigris>},
+    FormEntry{"Acorn"_L1, make<Acorn>},
+    FormEntry{"Chestnut"_L1, make<Chestnut>},
+    FormEntry{"Bateria"_L1, make<Bateria>},
+    FormEntry{"IC"_L1, make<IC>},
+    FormEntry{"Master"_L1, make<Master>},
+    FormEntry{"zAjustes"_L1, make<zAjustes>},
+    FormEntry{"I2C"_L1, make<I2C>},
+    FormEntry{"Displays"_L1, make<Displays>},
+    FormEntry{"RFs"_L1, make<RFs>},
+    FormEntry{"RFs_Esq"_L1, make<RFs_Esq>},
+    FormEntry{"Nand"_L1, make<Nand>},
+    FormEntry{"Outros"_L1, make<Outros>},
+    FormEntry{"Referencias"_L1, make<Referencias>},
 };
 
 } // namespace

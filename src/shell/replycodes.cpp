@@ -24,6 +24,7 @@ static constexpr std::array kReplyCodes = {
     ReplyCode{"17"_L1, "Outros"_L1, true, true},
     ReplyCode{"18"_L1, "PMU"_L1},
     ReplyCode{kBatteryLongCode, "Bateria"_L1},
+    ReplyCode{"22"_L1, "Referencias"_L1},
 };
 
 const ReplyCode *replyCode(const QString &code)

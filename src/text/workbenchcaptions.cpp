@@ -100,6 +100,41 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"Decimais de mA", u"Decimais de mA", u"mA decimals", u"Decimales de mA"},
     {u"Valor Referência", u"Valor Referência", u"Reference Value", u"Valor de referencia"},
 
+    // References of the technician's own boards
+    {u"Placas de referência", u"Placas de referência", u"Reference boards", u"Placas de referencia"},
+    {u"Tomar como referência", u"Tomar esta placa como referência", u"Take this board as reference",
+     u"Tomar esta placa como referencia"},
+    {u"Desfazer", u"Desfazer a última", u"Undo the last one", u"Deshacer la última"},
+    {u"Placas", u"Placas", u"Boards", u"Placas"},
+    {u"Mediana", u"Mediana", u"Median", u"Mediana"},
+    {u"Dispersão", u"Dispersão", u"Spread", u"Dispersión"},
+    {u"Nova referência", u"Nova referência", u"New reference", u"Nueva referencia"},
+    {u"Esta placa", u"Esta placa", u"This board", u"Esta placa"},
+    {u"varia demais", u"varia demais", u"varies too much", u"varía demasiado"},
+    {u"Nenhuma placa tomada ainda", u"Nenhuma placa tomada ainda", u"No board taken yet",
+     u"Ninguna placa tomada todavía"},
+    {u"Última placa: %1", u"Última placa: %1", u"Last board: %1", u"Última placa: %1"},
+    {u"DICA_REFERENCIAS",
+     u"Leia uma placa que você sabe estar boa. As malhas sem referência publicada recebem a mediana das suas placas.",
+     u"Read a board that you know to be good. Rails without a published reference get the median of your boards.",
+     u"Lea una placa que usted sabe que está buena. Las mallas sin referencia publicada reciben la mediana de sus "
+     u"placas."},
+    {u"REFERENCIAS_COMPLETAS", u"Todas as malhas de %1 têm referência publicada.",
+     u"Every rail of the %1 has a published reference.", u"Todas las mallas de %1 tienen referencia publicada."},
+    {u"TOMAR_REFERENCIA",
+     u"Modelo %1: guardar %2 leituras desta placa?\n%3 referências mudam. Só o que não tem referência publicada "
+     u"muda, e isso pode ser desfeito.",
+     u"Model %1: keep %2 readings of this board?\n%3 references change. Only what has no published reference changes, "
+     u"and it can be undone.",
+     u"Modelo %1: ¿guardar %2 lecturas de esta placa?\n%3 referencias cambian. Solo cambia lo que no tiene referencia "
+     u"publicada, y se puede deshacer."},
+    {u"TOMAR_COM_FALHAS", u"Atenção: %1 saídas desta placa falham nas referências publicadas. Ela está mesmo boa?",
+     u"Careful: %1 outputs of this board fail their published references. Is it really good?",
+     u"Atención: %1 salidas de esta placa fallan en sus referencias publicadas. ¿Está realmente buena?"},
+    {u"DESFAZER_PLACA", u"Esquecer a placa de %1? As referências voltam ao que as outras placas dão.",
+     u"Forget the board of %1? The references go back to what the other boards give.",
+     u"¿Olvidar la placa de %1? Las referencias vuelven a lo que dan las otras placas."},
+
     // Where a reference comes from; the keys are what the reference data says
     {u"Fonte da referência", u"Fonte da referência", u"Source of the reference", u"Fuente de la referencia"},
     {u"Confiança", u"Confiança", u"Confidence", u"Confianza"},
@@ -122,6 +157,7 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
      u"general board knowledge, not confirmed", u"conocimiento general de la placa, sin confirmar"},
     {u"common knowledge, unverified", u"conhecimento comum, não verificado", u"common knowledge, unverified",
      u"conocimiento común, sin verificar"},
+    {u"recorded here", u"gravado aqui", u"recorded here", u"grabado aquí"},
     {u"constant of the screen", u"valor fixo desta tela", u"constant of the screen", u"valor fijo de esta pantalla"},
     {u"output name only, net unknown", u"apenas o nome da saída, malha desconhecida", u"output name only, net unknown",
      u"solo el nombre de la salida, malla desconocida"},

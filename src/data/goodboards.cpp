@@ -1,0 +1,92 @@
+#include "goodboards.h"
+
+#include "queries.h"
+
+#include <QSqlError>
+
+using namespace Qt::StringLiterals;
+
+static constexpr int kVoltDecimals = 4;
+
+Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model)
+{
+    Result<QSqlQuery> table = store.run(kHasTable, {{u":table"_s, u"GoodBoards"_s}});
+    if (!table)
+        return table.trouble();
+    if (!table->next())
+        return QList<GoodReading>();
+    Result<QSqlQuery> query = store.run(kGoodReadings, {{u":model"_s, model}});
+    if (!query)
+        return query.trouble();
+    QList<GoodReading> readings;
+    while (query->next())
+        readings.append({query->value(0).toInt(), query->value(1).toString(), query->value(2).toString(),
+                         query->value(3).toString().toDouble()});
+    if (query->lastError().isValid())
+        return store.trouble(*query);
+    return readings;
+}
+
+/// Runs a query of the catalogue for nothing but its effect.
+static Result<Done> execute(const Store &store, const Query &query, const QVariantMap &values)
+{
+    const Result<QSqlQuery> run = store.run(query, values);
+    return run ? Result<Done>(Done{}) : run.trouble();
+}
+
+/// The row is written only while it has no reference, or the one that was taken from boards before.
+static Result<Done> writeReference(const Store &store, const QString &model, const TakenReference &taken)
+{
+    const QVariantMap rail{{u":model"_s, model}, {u":kind"_s, taken.tipo}, {u":output"_s, taken.orig}};
+    QVariantMap values = rail;
+    values.insert({{u":id"_s, taken.id}, {u":reference"_s, taken.refV}});
+    if (const Result<Done> written = execute(store, kTakeReference, values); !written)
+        return written;
+    if (const Result<Done> dropped = execute(store, kDropTaken, rail); !dropped || taken.refV.isEmpty())
+        return dropped;
+    values.remove(u":id"_s);
+    values.insert(u":source"_s, taken.source);
+    return execute(store, kAddTaken, values);
+}
+
+static Result<Done> writeReferences(const Store &store, const QString &model, const QList<TakenReference> &references)
+{
+    for (const TakenReference &reference : references)
+        if (const Result<Done> written = writeReference(store, model, reference); !written)
+            return written;
+    return Done{};
+}
+
+Result<Done> addGoodBoard(Store &store, const QString &model, const QList<GoodReading> &readings,
+                          const QList<TakenReference> &references)
+{
+    Result<Transaction> transaction = Transaction::begin(store);
+    if (!transaction)
+        return transaction.trouble();
+    for (const GoodReading &reading : readings) {
+        const QVariantMap values{{u":model"_s, model},
+                                 {u":kind"_s, reading.tipo},
+                                 {u":output"_s, reading.orig},
+                                 {u":board"_s, reading.board},
+                                 {u":volts"_s, QString::number(reading.volts, 'f', kVoltDecimals)}};
+        if (const Result<Done> added = execute(store, kAddGoodReading, values); !added)
+            return added;
+    }
+    if (const Result<Done> written = writeReferences(store, model, references); !written)
+        return written;
+    return transaction->commit();
+}
+
+Result<Done> dropGoodBoard(Store &store, const QString &model, const QString &board,
+                           const QList<TakenReference> &references)
+{
+    Result<Transaction> transaction = Transaction::begin(store);
+    if (!transaction)
+        return transaction.trouble();
+    if (const Result<Done> dropped = execute(store, kDropGoodBoard, {{u":model"_s, model}, {u":board"_s, board}});
+        !dropped)
+        return dropped;
+    if (const Result<Done> written = writeReferences(store, model, references); !written)
+        return written;
+    return transaction->commit();
+}

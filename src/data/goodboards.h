@@ -1,0 +1,42 @@
+#pragma once
+
+#include "store.h"
+
+#include <QList>
+#include <QString>
+
+/// What one rail measured on one board that is known to be good.
+struct GoodReading
+{
+    int tipo = 0;
+    QString orig;
+    QString board; ///< when it was taken, "2026-11-21 15:20:11.042": a board has no other name
+    double volts = 0;
+
+    friend bool operator==(const GoodReading &, const GoodReading &) = default;
+};
+
+/// A reference that the technician's boards gave to a rail that had none.
+struct TakenReference
+{
+    qint64 id = 0; ///< of the rail's row
+    int tipo = 0;
+    QString orig;
+    QString refV; ///< nominal in volts; empty: the boards give none
+    QString source = {};
+
+    friend bool operator==(const TakenReference &, const TakenReference &) = default;
+};
+
+/// The readings of every good board of a model, in the order in which they were taken. A store that was made before
+/// this was kept has none.
+Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model);
+
+/// Keeps what one board read, and writes the references that all boards give now; all or nothing. A reference that was
+/// not taken from boards is never touched.
+Result<Done> addGoodBoard(Store &store, const QString &model, const QList<GoodReading> &readings,
+                          const QList<TakenReference> &references);
+
+/// Forgets a board, and writes the references that the remaining ones give; all or nothing.
+Result<Done> dropGoodBoard(Store &store, const QString &model, const QString &board,
+                           const QList<TakenReference> &references);
