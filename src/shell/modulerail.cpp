@@ -34,7 +34,7 @@ ModuleRail::ModuleRail(QWidget *parent) : QScrollArea(parent), m_keyHint(new QLa
         if (!m_headings.contains(group)) {
             m_headings[group] = new QLabel;
             m_headings[group]->setFont(textFont(TextSize::Small));
-            m_headings[group]->setContentsMargins(Spacing::unit, group == 0 ? 0 : Spacing::control, 0, 0);
+            m_headings[group]->setContentsMargins(Spacing::unit, group == 0 ? 0 : Spacing::unit, 0, 0);
             layout->addWidget(m_headings[group]);
             if (group == 0)
                 addKeyHint(*m_headings[group]);

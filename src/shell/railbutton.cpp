@@ -10,17 +10,19 @@
 #include <algorithm>
 
 static constexpr int kIcon = 20;
-static constexpr int kHeight = 30;
+static constexpr int kHeight = Spacing::target;
+static constexpr int kLeastHeight = 27;
 /// A longer caption is set in two lines of small type.
 static constexpr int kCaption = 160;
 static constexpr int kTextLeft = 2 * Spacing::control + kIcon;
 
 RailButton::RailButton(QString key, QWidget *parent) : QToolButton(parent), m_key(std::move(key))
 {
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     setCheckable(true);
     setFocusPolicy(Qt::TabFocus);
     setProperty("flat", true);
+    setProperty("rail", true);
 }
 
 QSize RailButton::sizeHint() const
@@ -28,6 +30,11 @@ QSize RailButton::sizeHint() const
     const int key = QFontMetrics(textFont(TextSize::Small)).horizontalAdvance(m_key);
     const int caption = std::min(QFontMetrics(textFont()).horizontalAdvance(text()), kCaption);
     return {kTextLeft + caption + Spacing::control + key + Spacing::control, kHeight};
+}
+
+QSize RailButton::minimumSizeHint() const
+{
+    return {sizeHint().width(), kLeastHeight};
 }
 
 void RailButton::paintEvent(QPaintEvent *)

@@ -11,6 +11,8 @@ public:
     explicit RailButton(QString key, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    /// On a low screen the buttons come closer before the rail has to scroll.
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

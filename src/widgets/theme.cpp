@@ -100,6 +100,7 @@ QToolButton { min-width: 22px; min-height: 22px; padding: 4px; border: 1px solid
 QToolButton:hover, QToolButton:focus { border-color: @accent; }
 QToolButton:pressed, QToolButton:checked { background: @accent; color: @onAccent; }
 QToolButton:disabled { background: @window; color: @dim; }
+QToolButton[flat="true"][rail="true"] { min-height: 0; padding: 0; }
 QToolButton[flat="true"] { background: transparent; border-color: transparent; }
 QToolButton[flat="true"]:checked, QToolButton[flat="true"]:pressed { background: @accent; }
 QToolButton[flat="true"]:hover, QToolButton[flat="true"]:focus { border-color: @accent; }
