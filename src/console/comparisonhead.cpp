@@ -38,8 +38,8 @@ ComparisonHead::ComparisonHead(QWidget *parent)
     lines->addWidget(named(new QLabel, u"lbDispositivo"_s));
     lines->addWidget(summary);
     auto *row = controlRow(this);
-    row->setSpacing(Spacing::group);
     row->addWidget(m_badge);
+    row->addSpacing(Spacing::control);
     row->addLayout(lines, 1);
     for (QWidget *part : std::initializer_list<QWidget *>{m_lbTolerancia, m_tolerancia, m_btAnteriorDif, m_btProximaDif,
                                                           m_btDiferencas})

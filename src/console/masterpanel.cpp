@@ -55,7 +55,9 @@ QMap<QString, Field> MasterScreen::state() const
     fields[u"lbDispositivo"_s] = {.text = device, .visible = !m_showsHistory};
     fields[u"Command1"_s] = {.visible = m_maintains};
     fields[u"Command2"_s] = {.visible = m_maintains};
-    fields[u"lbResumo"_s] = {.text = summary()};
+    const QString comesTo = summary();
+    fields[u"lbResumo"_s] = {.text = comesTo,
+                             .tip = u"<qt>%1</qt>"_s.arg(comesTo.toHtmlEscaped())}; // cut in a narrow window
     const bool isChanged = m_recording && m_recording->integrity == Integrity::Changed;
     fields[u"lbIntegridade"_s] = {.visible = isChanged};
     return fields;
