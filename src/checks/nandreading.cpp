@@ -74,10 +74,11 @@ QString tellingLine(const QString &reply)
 {
     static constexpr std::array kWords = {"ERROR"_L1, "missing"_L1, "size:"_L1, "UID"_L1, "name:"_L1, "Pass"_L1};
     const QStringList lines = reply.split(u'\n');
-    for (const QLatin1StringView word : kWords)
+    for (const QLatin1StringView word : kWords) {
         for (const QString &line : lines)
             if (line.contains(word))
                 return line.trimmed();
+    }
     return {};
 }
 
@@ -88,11 +89,12 @@ void judgeSize(Panel &panel, const NandInput &input, bool isGood)
         panel.fields[u"lbNand"_s].text = u"NAND "_s + *size;
     else if (isGood)
         panel.fields[u"lbNand"_s].text = u"NAND"_s;
-    if (size || isGood)
+    if (size || isGood) {
         addFact(panel, {.what = caption(u"Tamanho da NAND", input.language),
                         .reading = size.value_or(caption(u"Sem Medição", input.language)),
                         .verdict = size ? Verdict::None : Verdict::Incomplete,
                         .line = tellingLine(input.reply)});
+    }
 }
 
 void judge(Panel &panel, const NandInput &input, Answer answer)
@@ -111,13 +113,14 @@ void judge(Panel &panel, const NandInput &input, Answer answer)
 
 void listRails(Panel &panel, const NandInput &input)
 {
-    for (const RailRow &rail : input.rails)
+    for (const RailRow &rail : input.rails) {
         panel.rows.append({.cells = {{u"Orig"_s, rail.orig},
                                      {u"Malha"_s, rail.malha},
                                      {u"Ci"_s, rail.ci},
                                      {u"Leitura"_s, rail.leitura},
                                      {u"REF"_s, rail.ref},
                                      {u"PORC"_s, rail.porc}}});
+    }
 }
 
 } // namespace

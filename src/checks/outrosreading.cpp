@@ -25,10 +25,11 @@ const MemoryTest *memoryTest(int index)
 static QString tellingLine(const QString &reply)
 {
     QStringList lines = reply.split(u'\n');
-    for (const QLatin1StringView word : {kPassed, "FAIL"_L1})
+    for (const QLatin1StringView word : {kPassed, "FAIL"_L1}) {
         for (const QString &line : lines)
             if (line.contains(word))
                 return line.trimmed();
+    }
     lines.removeIf([](const QString &line) { return line.trimmed().isEmpty() || line.contains("] :-)"_L1); });
     return lines.isEmpty() ? QString() : lines.last().trimmed();
 }

@@ -47,7 +47,7 @@ struct RadioInput
 };
 
 /// Whether the reply to an on command holds one of the radio's markers.
-bool cameUp(int radio, const QString &reply);
+bool cameUp(int index, const QString &reply);
 
 /// What became of a radio. Only an on command is judged.
 Panel readRadio(const RadioInput &input);

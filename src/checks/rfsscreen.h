@@ -29,7 +29,7 @@ protected:
     void forget() override;
 
 private:
-    void run(int radio, RadioAction action);
+    void run(int index, RadioAction action);
 
     RadioInput m_input; ///< less the reply
 };
