@@ -19,13 +19,14 @@ struct ActionColumn
 {
     QLatin1StringView array;
     QStringView caption;
-    void (RFsScreen::*click)(int radio);
+    void (*click)(RFsScreen &radios, int radio);
 };
 
 constexpr std::array kActions = {
-    ActionColumn{"btOn"_L1, u"Ligar", &RFsScreen::btOn_Click},
-    ActionColumn{"btOff"_L1, u"Desligar", &RFsScreen::btOff_Click},
-    ActionColumn{"btPropriedades"_L1, u"Propriedades", &RFsScreen::btPropriedades_Click},
+    ActionColumn{"btOn"_L1, u"Ligar", [](RFsScreen &radios, int radio) { radios.btOn_Click(radio); }},
+    ActionColumn{"btOff"_L1, u"Desligar", [](RFsScreen &radios, int radio) { radios.btOff_Click(radio); }},
+    ActionColumn{"btPropriedades"_L1, u"Propriedades",
+                 [](RFsScreen &radios, int radio) { radios.btPropriedades_Click(radio); }},
 };
 
 constexpr int kFieldWidth = 110;
@@ -62,7 +63,7 @@ QWidget *RFs::radios()
         for (const ActionColumn &action : kActions) {
             QPushButton *const button = testButton(element(QString(action.array), index));
             connect(button, &QPushButton::clicked, &m_radios,
-                    [this, index, click = action.click] { (m_radios.*click)(index); });
+                    [this, index, click = action.click] { click(m_radios, index); });
             grid->addWidget(button, index, column++);
             m_buttons.append(button);
         }

@@ -50,7 +50,7 @@ constexpr std::array kGenerations = {
     Generation{"IP 7"_L1, "BIST ldo7:"_L1, "BIST ildo7:"_L1, kNets7, "1.700"_L1},
     Generation{"IP 8"_L1, "BIST ldo7:"_L1, "BIST ildo7:"_L1, kNets8, "3.350"_L1},
     Generation{"IP X"_L1, "BIST ldo7:"_L1, "BIST ildo7:"_L1, kNets8, "3.350"_L1},
-    Generation{""_L1, "BIST ldo7:"_L1, "BIST ildo7:"_L1, kNets8, "1.700"_L1},
+    Generation{{}, "BIST ldo7:"_L1, "BIST ildo7:"_L1, kNets8, "1.700"_L1},
 };
 
 constexpr std::array kDesignators = {
@@ -61,7 +61,9 @@ constexpr std::array kDesignators = {
 
 const Generation &generationOf(const QString &model)
 {
-    return *std::ranges::find_if(kGenerations, [&](const Generation &row) { return model.startsWith(row.models); });
+    const auto last = kGenerations.end() - 1; // all others: a model that is not known yet, too
+    return *std::find_if(kGenerations.begin(), last,
+                         [&](const Generation &row) { return model.startsWith(row.models); });
 }
 
 bool isFault(const Judgement &judgement)
