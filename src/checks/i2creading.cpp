@@ -155,6 +155,11 @@ void showRun(Panel &panel, QStringList list, const QString &failures, const I2CI
 
 } // namespace
 
+QString busCommand(int bus)
+{
+    return u"i2c -s %1"_s.arg(bus);
+}
+
 QList<BusDevice> answeringDevices(const BusReply &reply, const QList<BusDevice> &expected)
 {
     static const QRegularExpression kAddress(u"0(x[0-9A-F]{2})(?![0-9A-Za-z])"_s);

@@ -5,6 +5,9 @@
 #include "modelbuses.h"
 #include "panel.h"
 
+/// The command that scans a bus.
+QString busCommand(int bus);
+
 /// What a bus answered to its scan.
 struct BusReply
 {

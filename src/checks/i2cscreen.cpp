@@ -92,7 +92,7 @@ void I2CScreen::testBus(int bus)
         m_input.bus = bus;
         m_input.replies.removeIf([bus](const BusReply &reply) { return reply.bus == bus; });
     }
-    ask({.command = u"i2c -s %1"_s.arg(bus), .needsModel = true});
+    ask({.command = busCommand(bus), .needsModel = true});
 }
 
 void I2CScreen::btAutoTeste_Click()

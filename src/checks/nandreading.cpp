@@ -132,6 +132,12 @@ QStringView nandCaption(NandTest test)
     return kCaptions.at(static_cast<std::size_t>(test));
 }
 
+QLatin1StringView nandCommand(NandTest test)
+{
+    static constexpr std::array kCommands = {"nanduid"_L1, "nandsize"_L1, "nand --getinfo"_L1, "syscfg list"_L1, ""_L1};
+    return kCommands.at(static_cast<std::size_t>(test));
+}
+
 QString sizeClass(int gb)
 {
     const auto band =

@@ -26,6 +26,9 @@ struct NandInput
     QList<RailRow> rails = {};
 };
 
+/// The command of a test; the rails have none.
+QLatin1StringView nandCommand(NandTest test);
+
 /// Whether the storage chip answers, and what it says of itself.
 Panel readNand(const NandInput &input);
 

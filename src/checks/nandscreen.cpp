@@ -14,15 +14,14 @@ static constexpr auto kChip = "NAND"_L1;
 /// Of the commands; the rails have none.
 static Check checkOf(NandTest test)
 {
+    const QString command = nandCommand(test);
     switch (test) {
-    case NandTest::Size:
-        return {.command = u"nandsize"_s, .bar = 10ms};
     case NandTest::Info:
-        return {.command = u"nand --getinfo"_s, .needsModel = true, .refuses = isSixFamily, .bar = 10ms};
+        return {.command = command, .needsModel = true, .refuses = isSixFamily, .bar = 10ms};
     case NandTest::Configuration:
-        return {.command = u"syscfg list"_s, .bar = 250ms};
+        return {.command = command, .bar = 250ms};
     default:
-        return {.command = u"nanduid"_s, .bar = 10ms};
+        return {.command = command, .bar = 10ms};
     }
 }
 

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 static constexpr std::array kTests = {
     MemoryTest{kFullMemoryTest, "testmemory"_L1, u"MEM RAM Teste", {}, u"RAM"},
-    MemoryTest{6, "testmemory --1MB"_L1, u"MEM RAM Teste 1MB", u"TESTE 15s"},
+    MemoryTest{kSmallMemoryTest, "testmemory --1MB"_L1, u"MEM RAM Teste 1MB", u"TESTE 15s"},
 };
 
 static constexpr auto kPassed = "Pass"_L1; // of "Passed" too; capitals are another word

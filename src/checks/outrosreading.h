@@ -14,6 +14,7 @@ struct MemoryTest
 };
 
 inline constexpr int kFullMemoryTest = 5;
+inline constexpr int kSmallMemoryTest = 6;
 
 /// The test of an index; nothing for a button that starts none.
 const MemoryTest *memoryTest(int index);

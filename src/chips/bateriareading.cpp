@@ -89,14 +89,6 @@ std::optional<int> wholePercent(double percent)
     return percent >= 0 && percent <= kMost ? std::optional(static_cast<int>(std::floor(percent))) : std::nullopt;
 }
 
-/// The present capacity as a whole percentage of the designed one; above 100 on a fresh battery.
-std::optional<int> health(const QString &reply)
-{
-    const auto design = capacity(reply, kDesign);
-    const auto nominal = capacity(reply, kNominal);
-    return design && nominal ? wholePercent(*nominal * 100 / *design) : std::nullopt;
-}
-
 std::optional<int> charge(const QString &reply)
 {
     const auto text = valueOf(reply, kFacts[2]);
@@ -111,21 +103,32 @@ Field gauge(std::optional<int> percent)
 
 QStringList valuesOf(const QString &reply)
 {
-    const auto percent = health(reply);
+    const auto percent = batteryHealth(reply);
     QStringList values{percent ? u"%1 %"_s.arg(*percent) : QString(kNotTold)};
     for (std::size_t i = 1; i < kFacts.size(); ++i)
         values.append(valueOf(reply, kFacts.at(i)).value_or(QString(kNotTold)));
     return values;
 }
 
-/// The gauges of the oldest models do not tell everything.
 QString note(const GaugeInput &input)
 {
-    const bool isOldest = input.model.startsWith("IP 6"_L1);
-    return "* "_L1 + caption(isOldest ? u"NAO_DISP_PARA_ESSE_MODELO" : u"Sem Medição", input.language).toUpper();
+    return "* "_L1 +
+           caption(isGaugeShort(input.model) ? u"NAO_DISP_PARA_ESSE_MODELO" : u"Sem Medição", input.language).toUpper();
 }
 
 } // namespace
+
+std::optional<int> batteryHealth(const QString &reply)
+{
+    const auto design = capacity(reply, kDesign);
+    const auto nominal = capacity(reply, kNominal);
+    return design && nominal ? wholePercent(*nominal * 100 / *design) : std::nullopt;
+}
+
+bool isGaugeShort(const QString &model)
+{
+    return model.startsWith("IP 6"_L1);
+}
 
 QStringView batteryFact(int index)
 {
@@ -145,7 +148,7 @@ Panel readBateria(const GaugeInput &input)
             panel.facts.append(
                 {{{u"Dado"_s, caption(batteryFact(i), input.language).trimmed()}, {u"Leitura"_s, values.at(i)}}});
     }
-    panel.fields[u"MedidorSaude"_s] = gauge(health(input.reply));
+    panel.fields[u"MedidorSaude"_s] = gauge(batteryHealth(input.reply));
     panel.fields[u"MedidorCarga"_s] = gauge(charge(input.reply));
     const bool isGap = values.contains(QString(kNotTold));
     panel.fields[u"lbVar"_s] = {.text = isGap ? note(input) : QString(), .visible = isGap};

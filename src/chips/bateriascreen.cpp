@@ -7,8 +7,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 static constexpr auto kPropertiesCode = "14"_L1;
-static constexpr auto kProperties = "battery --properties"_L1;
-static constexpr auto kGauge = "device  --key GasGauge -p"_L1; // the phone's notes write two blanks
 /// How long the gauge takes is not known: the bar comes to a stand before its end.
 static constexpr int kProgressStep = 4;
 static constexpr int kProgressLimit = 96;
@@ -42,7 +40,7 @@ void BateriaScreen::read()
     m_txtDados.clear();
     if (session().isSavedReply()) // it is the gauge's
         askGauge();
-    else if (session().request(kPropertiesCode, kProperties))
+    else if (session().request(kPropertiesCode, kBatteryProperties))
         enter(Step::Properties);
     else
         end(Step::Nothing);
@@ -50,7 +48,7 @@ void BateriaScreen::read()
 
 void BateriaScreen::askGauge()
 {
-    if (session().request(kBatteryLongCode, kGauge))
+    if (session().request(kBatteryLongCode, kGasGauge))
         enter(Step::Gauge);
     else
         end(Step::Nothing);

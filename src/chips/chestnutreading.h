@@ -2,6 +2,9 @@
 
 #include "chipreading.h"
 
+inline constexpr QLatin1StringView kChestnutCommand{"pmuadc --sel chestnut --read all"};
+inline constexpr QLatin1StringView kTouchOn{"touch --on"};
+
 /// The supplies of the LCD panel and of its touch controller.
 Panel readChestnut(const ChipInput &input);
 

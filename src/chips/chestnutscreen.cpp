@@ -16,7 +16,7 @@ ChestnutScreen::ChestnutScreen(Session &session, QObject *parent)
     : ChipScreen(session,
                  {.name = u"Chestnut"_s,
                   .code = u"8"_s,
-                  .command = u"pmuadc --sel chestnut --read all"_s,
+                  .command = kChestnutCommand,
                   .read = readChestnut,
                   .fits = hasLcdPanel,
                   .refusal = {{}, {u"IP X!"_s, u"NOT FOR X!"_s}},
@@ -37,7 +37,7 @@ ChestnutScreen::ChestnutScreen(Session &session, QObject *parent)
 bool ChestnutScreen::switchTouch(Touch wanted)
 {
     const bool isOn = wanted == Touch::On;
-    if (!session().request(kMainWindowCode, isOn ? u"touch --on"_s : u"touch --off"_s))
+    if (!session().request(kMainWindowCode, isOn ? QString(kTouchOn) : u"touch --off"_s))
         return false;
     m_nextTouch = isOn ? Touch::Off : Touch::On;
     rebuild();

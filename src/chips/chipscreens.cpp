@@ -13,13 +13,10 @@ TristarScreen::TristarScreen(Session &session, QObject *parent)
 }
 
 TigrisScreen::TigrisScreen(Session &session, QObject *parent)
-    : ChipScreen(session,
-                 {.name = u"Tigris"_s,
-                  .code = u"9"_s,
-                  .command = u"pmuadc --sel tigris --read all"_s,
-                  .read = readTigris,
-                  .log = ReplyLog::Open},
-                 parent)
+    : ChipScreen(
+          session,
+          {.name = u"Tigris"_s, .code = u"9"_s, .command = kTigrisCommand, .read = readTigris, .log = ReplyLog::Open},
+          parent)
 {
 }
 

@@ -4,9 +4,18 @@
 #include "communication.h"
 #include "models.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 static constexpr qsizetype kShortestAnswer = 151;
+
+QLatin1StringView portChipCommand(int selector)
+{
+    static constexpr std::array kCommands = {
+        "tristar -p"_L1, "tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx"_L1};
+    return kCommands.at(static_cast<std::size_t>(selector - 1));
+}
 
 QString portChip(const QString &model)
 {

@@ -15,6 +15,9 @@ struct PortChipInput
 /// A reply of this length or less says nothing yet.
 inline constexpr qsizetype kNoPortChipReply = 30;
 
+/// The commands that it answers: 1 its properties, 2 its registers.
+QLatin1StringView portChipCommand(int selector);
+
 /// Whether the port controller answers. Only the length of the reply tells: a chip that is silent leaves a short line.
 Panel readIC(const PortChipInput &input);
 

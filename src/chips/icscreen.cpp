@@ -3,18 +3,14 @@
 #include "chipreading.h"
 #include "icreading.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
-static constexpr std::array kCommands = {
-    "tristar -p"_L1, "tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx"_L1};
 
 ICScreen::ICScreen(Session &session, QObject *parent) : CheckScreen(session, u"IC"_s, u"5"_s, parent) {}
 
 void ICScreen::btBl_Click()
 {
-    ask({.command = kCommands.at(static_cast<std::size_t>(m_selector - 1)), .needsModel = true});
+    ask({.command = portChipCommand(m_selector), .needsModel = true});
 }
 
 void ICScreen::btTristar_Click()

@@ -93,7 +93,7 @@ void tell(Panel &panel, const ChipRow &row, const ChipValue &value)
     if (value.verdict == Verdict::None)
         return;
     panel.judgements.append({nameOf(row), reading, row.reference, rule ? kSource.toString() : QString(),
-                             value.deviation, rule, value.verdict, panel.screen, value.value.line});
+                             value.deviation, rule, value.verdict, panel.screen, value.value.line, row.label});
 }
 
 void clear(Panel &panel, const ChipTable &table)

@@ -57,7 +57,8 @@ struct Judgement
     std::optional<Rule> rule = {};
     Verdict verdict = Verdict::None;
     QString screen = {};
-    QString line = {}; ///< the line of the reply that was judged
+    QString line = {};   ///< the line of the reply that was judged
+    QString output = {}; ///< its label in the reply, where several screens may judge the same one
 
     friend bool operator==(const Judgement &, const Judgement &) = default;
 };

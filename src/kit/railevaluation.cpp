@@ -97,6 +97,7 @@ EvaluatedRail AvaliaLinhaPmu(const RailContext &context, const RailRow &row, con
         return rail;
     }
     const QString label = BistLabel(row.refT);
+    rail.output = label;
     rail.indexUnknown = label.isEmpty();
     const LabelledValue value = valueBehind(context.reply, label);
     rail.line = value.line;
@@ -141,10 +142,11 @@ static Row gridRow(const EvaluatedRail &rail)
             {drift(row.leitura, row.g[0]), drift(row.leitura, row.g[1]), drift(row.leitura, row.g[2])}};
 }
 
-static Judgement judgement(const EvaluatedRail &rail, const QString &screen)
+Judgement judgementOf(const EvaluatedRail &rail, const QString &screen)
 {
     const RailRow &row = rail.row;
-    return {row.malha, row.leitura, row.refV, row.source, rail.deviation, rail.rule, rail.verdict, screen, rail.line};
+    return {row.malha, row.leitura,  row.refV, row.source, rail.deviation,
+            rail.rule, rail.verdict, screen,   rail.line,  rail.output};
 }
 
 QList<Judgement> judgementsOf(const QList<EvaluatedRail> &rails, const QString &screen)
@@ -152,7 +154,7 @@ QList<Judgement> judgementsOf(const QList<EvaluatedRail> &rails, const QString &
     QList<Judgement> judgements;
     for (const EvaluatedRail &rail : rails)
         if (rail.verdict != Verdict::None)
-            judgements.append(judgement(rail, screen));
+            judgements.append(judgementOf(rail, screen));
     return judgements;
 }
 

@@ -48,6 +48,7 @@ struct EvaluatedRail
     std::optional<Rule> rule = {}; ///< what it is judged by, if it has a reference
     Verdict verdict = Verdict::None;
     QString line = {};
+    QString output = {}; ///< its label in the reply
     bool indexUnknown = false;
 };
 
@@ -60,6 +61,9 @@ bool hasReference(const RailRow &row);
 
 /// The rails in an order, exactly as the store would list their rows.
 QList<EvaluatedRail> sorted(QList<EvaluatedRail> rails, RailOrder order);
+
+/// What a rail came to on a screen, held against something or not.
+Judgement judgementOf(const EvaluatedRail &rail, const QString &screen);
 
 /// The judgements of the rails that were held against something.
 QList<Judgement> judgementsOf(const QList<EvaluatedRail> &rails, const QString &screen);

@@ -5,7 +5,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-static constexpr auto kSelfTest = "pmuadc --read all"_L1;
 static constexpr auto kBlinkInterval = 500ms;
 static constexpr int kBlinks = 10; ///< five seconds, then the note stays
 
