@@ -23,7 +23,9 @@ static constexpr std::array kReplyCodes = {
     ReplyCode{"16"_L1, "VCores"_L1},
     ReplyCode{"17"_L1, "Outros"_L1, true, true},
     ReplyCode{"18"_L1, "PMU"_L1},
-    ReplyCode{kBatteryLongCode, "Bateria"_L1},
+    ReplyCode{kBatteryLongCode, "Bateria"_L1, false, false, true},
+    ReplyCode{kSurveyCode, "Survey"_L1},
+    ReplyCode{kSurveyLongCode, "Survey"_L1, false, false, true},
     ReplyCode{"22"_L1, "Referencias"_L1},
 };
 

@@ -9,12 +9,15 @@ struct ReplyCode
     QLatin1StringView screen;
     bool stripsEcho = false;        ///< every occurrence of the command is taken out of the reply
     bool rebindsRecordings = false; ///< the screen's recorded-data view follows the command
+    bool endsBySilence = false;     ///< a long reply with pauses; the prompt is not looked for
 };
 
 /// The code of the main window itself: its replies feed the model detection.
 inline constexpr QLatin1StringView kMainWindowCode{"0"};
-/// The battery's long reply has pauses: it ends by silence.
 inline constexpr QLatin1StringView kBatteryLongCode{"19"};
+/// The survey asks in place of every screen; what has pauses, under a code of its own.
+inline constexpr QLatin1StringView kSurveyCode{"20"};
+inline constexpr QLatin1StringView kSurveyLongCode{"21"};
 
 /// The row of a code, or none.
 const ReplyCode *replyCode(const QString &code);

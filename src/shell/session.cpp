@@ -104,7 +104,7 @@ void Session::connectOrDisconnect(const QString &port)
     if (m_status == u'1')
         disconnectNow();
     else if (m_status == u'0')
-        connectTo(portAddress(port));
+        connectTo(portAddress(m_portText = port));
     else
         refuse({u"REFUSED_BUSY"_s});
 }
@@ -307,7 +307,7 @@ void Session::AdicionaDadosConsole(const QString &chunk)
 
 EndOfReply Session::endOfReply() const
 {
-    if (m_code == kBatteryLongCode)
+    if (const ReplyCode *row = replyCode(m_code); row && row->endsBySilence)
         return EndOfReply::Silence;
     const bool atOnce = m_speedSetting == u'1' && m_txtComandos != kModelQuery;
     return atOnce ? EndOfReply::PromptAtOnce : EndOfReply::Prompt;

@@ -88,6 +88,8 @@ public:
     const QString &txtConsole() const { return m_txtConsole; }
     const QString &txtComandos() const { return m_txtComandos; }
     QString activeCode() const { return m_code; }
+    /// The text that was chosen as port, the last time one was opened.
+    const QString &port() const { return m_portText; }
     StoreQueue &store() { return m_parts.store; }
     Boxes &boxes() { return m_parts.boxes; }
 
@@ -220,6 +222,7 @@ private:
     bool m_isSavedReply = false;
     int m_handshakeTicks = 0;
 
+    QString m_portText;
     QString m_txtComandos;
     QString m_txtConsole;
     QString m_code;

@@ -27,11 +27,17 @@ constexpr Property kGauge[] = {
     {"temperature"_L1, "28C"_L1, "28C"_L1},
 };
 
+/// Their gauges do not tell the present capacity.
+bool isOldest(const QString &model)
+{
+    return model == "IP 6"_L1 || model == "IP 6 Plus"_L1;
+}
+
 QStringList lines(const PhoneProfile &profile, std::span<const Property> properties)
 {
     QStringList told;
     for (const Property &property : properties) {
-        if (property.key != kNominal || !profile.model.startsWith("IP 6"_L1)) // the oldest gauges do not tell it
+        if (property.key != kNominal || !isOldest(profile.model))
             told.append(u"%1: \"%2\""_s.arg(property.key, profile.wornBattery ? property.worn : property.healthy));
     }
     return told;

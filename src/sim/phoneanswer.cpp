@@ -90,6 +90,12 @@ QStringList modelLines(const PhoneProfile &profile)
     return {profile.modelNumber};
 }
 
+/// A number that no phone has.
+QStringList serialLines(const PhoneProfile &profile)
+{
+    return {u"SIM0"_s + scatteredDigits(profile.model, u"serial")};
+}
+
 struct Command
 {
     QLatin1StringView line;
@@ -98,6 +104,7 @@ struct Command
 
 constexpr Command kCommands[] = {
     {"syscfg print RMd#"_L1, modelLines},
+    {"syscfg print SrNm"_L1, serialLines},
     {"pmuadc --read all"_L1, pmuLines},
     {"pmuadc --sel tigris --read all"_L1, tigrisLines},
     {"pmuadc --sel chestnut --read all"_L1, chestnutLines},

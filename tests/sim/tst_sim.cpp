@@ -101,7 +101,7 @@ private slots:
         add("IP X", chestnut, "chestnut vldo", 0);
         add("IP X,acorn.die_temp=31.25", "pmuadc --read all", "\nacorn die_temp : 31.2500 C\n", 1);
         add("IP 7", gauge, "\nnominal-capacity: \"1715mAh\"\n", 1);
-        add("IP 6s", gauge, "nominal-capacity", 0);
+        add("IP 6", gauge, "nominal-capacity", 0);
         add("IP 7,tristar=off", "tristar -p", "\nERROR\n", 1);
         add("IP 7,garbage", tigris, "\x1B~\x80tigris ibus : ", 1); // noise lies between the lines
         add("IP 7,garbage", "syscfg print RMd#", "\nA1660\n", 1);
