@@ -198,6 +198,41 @@ inline constexpr Query kSetting{"Setting", "Select Value from Settings Where Nam
 inline constexpr Query kSetSetting{"SetSetting",
     "Insert into Settings (Name, Value) values (:name, :value) on conflict (Name) do update set Value = excluded.Value"};
 
+// The journal of surveys. What a survey writes again and again leaves the note alone: a person may have set it since.
+inline constexpr Query kSurveys{"Surveys",
+    R"(Select Id, Started, Ended, Outcome, Model, Serial, Port, Name, Note,
+    (Select count(*) from SurveyFindings Where Survey = Surveys.Id and Verdict = 'fail') as Faults from Surveys
+    Where Started like :pattern escape '\' or Model like :pattern escape '\' or Serial like :pattern escape '\'
+    or Name like :pattern escape '\' or Note like :pattern escape '\'
+    or exists (Select 1 from SurveyFindings Where Survey = Surveys.Id and Verdict = 'fail'
+    and What like :pattern escape '\') order by Started desc, rowid desc)"};
+inline constexpr Query kSurvey{"Survey",
+    "Select Id, Started, Ended, Outcome, Model, Serial, Port, Name, Note, "
+    "(Select count(*) from SurveyFindings Where Survey = Surveys.Id and Verdict = 'fail') as Faults from Surveys "
+    "Where Id = :id"};
+inline constexpr Query kSurveyReplies{"SurveyReplies",
+    "Select Place, Command, Reply, Cut from SurveyReplies Where Survey = :id order by Place"};
+inline constexpr Query kSurveyFindings{"SurveyFindings",
+    "Select * from SurveyFindings Where Survey = :id order by rowid"};
+inline constexpr Query kKeepSurvey{"KeepSurvey",
+    "Insert into Surveys (Id, Started, Ended, Outcome, Model, Serial, Port, Name, Note) "
+    "values (:id, :started, :ended, :outcome, :model, :serial, :port, :name, :note) "
+    "on conflict (Id) do update set Ended = excluded.Ended, Outcome = excluded.Outcome, Serial = excluded.Serial"};
+inline constexpr Query kKeepSurveyReply{"KeepSurveyReply",
+    "Insert or replace into SurveyReplies (Survey, Place, Command, Reply, Cut) "
+    "values (:id, :place, :command, :reply, :cut)"};
+inline constexpr Query kKeepSurveyFinding{"KeepSurveyFinding",
+    "Insert into SurveyFindings (Survey, Output, What, Screens, Reading, Reference, Source, Deviation, Lowest, Highest, "
+    "Verdict, Line) values (:id, :output, :what, :screens, :reading, :reference, :source, :deviation, :lowest, "
+    ":highest, :verdict, :line) on conflict (Survey, Output) do update set What = excluded.What, "
+    "Screens = excluded.Screens, Reading = excluded.Reading, Reference = excluded.Reference, Source = excluded.Source, "
+    "Deviation = excluded.Deviation, Lowest = excluded.Lowest, Highest = excluded.Highest, "
+    "Verdict = excluded.Verdict, Line = excluded.Line"};
+inline constexpr Query kSetSurveyNote{"SetSurveyNote", "Update Surveys set Note = :note Where Id = :id"};
+inline constexpr Query kDeleteSurvey{"DeleteSurvey", "Delete from Surveys Where Id = :id"};
+inline constexpr Query kDeleteSurveyReplies{"DeleteSurveyReplies", "Delete from SurveyReplies Where Survey = :id"};
+inline constexpr Query kDeleteSurveyFindings{"DeleteSurveyFindings", "Delete from SurveyFindings Where Survey = :id"};
+
 // What a new store is filled with.
 inline constexpr Query kAddRail{"AddRail",
     "Insert into Master (Modelo, TIPO, Orig, Malha, Ci, RefT, RefV, REF) "

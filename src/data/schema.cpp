@@ -20,6 +20,11 @@ constexpr SchemaTable kTables[] = {
     {"Settings"_L1, "Name Value"_L1, "Name"_L1, SchemaTable::Origin::Added},
     {"DeviceSources"_L1, "Aparelho i Source"_L1, "Aparelho, i"_L1, SchemaTable::Origin::Added},
     {"RecordingHash"_L1, "Aparelho Comando Sha256"_L1, "Aparelho, Comando"_L1, SchemaTable::Origin::Added},
+    {"Surveys"_L1, "Id Started Ended Outcome Model Serial Port Name Note"_L1, "Id"_L1, SchemaTable::Origin::Added},
+    {"SurveyReplies"_L1, "Survey Place Command Reply Cut"_L1, "Survey, Place"_L1, SchemaTable::Origin::Added},
+    {"SurveyFindings"_L1,
+     "Survey Output What Screens Reading Reference Source Deviation Lowest Highest Verdict Line"_L1,
+     "Survey, Output"_L1, SchemaTable::Origin::Added},
 };
 
 } // namespace

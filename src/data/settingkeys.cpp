@@ -24,6 +24,7 @@ enum class Form
 {
     Address, ///< of the web, or empty
     Line,    ///< one line of text, or empty
+    Percent, ///< 1 to 99, or empty
     Model    ///< one of the nine
 };
 
@@ -58,6 +59,7 @@ constexpr Key kKeys[] = {
     {"buckldo-amps"_L1, kMilliDecimals, Combo::BuckLdoMilli},
     {"pmu-volts"_L1, kVoltDecimals, Combo::PmuVolts},
     {"pmu-amps"_L1, kMilliDecimals, Combo::PmuMilli},
+    {kBatteryWorn, Form::Percent},
     {"auto-reconnect"_L1, kSwitch},
     {"maintenance"_L1, kSwitch},
     {"help-video"_L1, Form::Address},
@@ -85,6 +87,14 @@ bool isLine(const QString &value)
     return value.size() <= kLongest && std::ranges::all_of(value, [](QChar letter) { return letter.isPrint(); });
 }
 
+bool isPercent(const QString &value)
+{
+    constexpr int kMost = 99;
+    const bool isShort =
+        value.size() <= 2 && std::ranges::all_of(value, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return value.isEmpty() || (isShort && value.toInt() >= 1 && value.toInt() <= kMost);
+}
+
 bool isAddress(const QString &value)
 {
     const QUrl url(value, QUrl::StrictMode);
@@ -101,6 +111,8 @@ bool fits(const Accepted &accepted, const QString &value)
         return isAddress(value);
     case Form::Line:
         return isLine(value);
+    case Form::Percent:
+        return isPercent(value);
     case Form::Model:
         return modelNames().contains(value);
     }
@@ -116,6 +128,8 @@ QString described(const Accepted &accepted)
         return u"http://… https://…"_s;
     case Form::Line:
         return u"… (≤ 120)"_s;
+    case Form::Percent:
+        return u"1 … 99"_s;
     case Form::Model:
         return modelNames().join(", "_L1);
     }

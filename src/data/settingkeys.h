@@ -5,6 +5,10 @@
 #include <QList>
 #include <QString>
 
+/// Of less health than so many per cent a battery counts as worn.
+inline constexpr QLatin1StringView kBatteryWorn{"battery-worn"};
+inline constexpr int kBatteryWornPreset = 80;
+
 /// A setting that a person may read and write by name.
 struct NamedSetting
 {

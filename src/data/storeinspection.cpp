@@ -22,9 +22,24 @@ constexpr QLatin1StringView kReferenceTables[] = {"Master"_L1, "Rf"_L1,     "i"_
                                                   "M"_L1,      "Combos"_L1, "Tools"_L1, "Ultimo"_L1};
 constexpr QLatin1StringView kUserTables[] = {"Master"_L1, "Comandos"_L1, "Dados"_L1, "Combos"_L1};
 
-std::span<const QLatin1StringView> tablesFor(StoreRole role)
+using Tables = QList<QLatin1StringView>;
+
+/// What a store must have for its role, and those of the added tables that it has.
+Result<Tables> tablesIn(const Store &store, StoreRole role)
 {
-    return role == StoreRole::User ? std::span<const QLatin1StringView>(kUserTables) : kReferenceTables;
+    if (role == StoreRole::User)
+        return Tables(std::begin(kUserTables), std::end(kUserTables));
+    Tables tables(std::begin(kReferenceTables), std::end(kReferenceTables));
+    for (const SchemaTable &table : schemaTables()) {
+        if (table.origin != SchemaTable::Origin::Added)
+            continue;
+        Result<QSqlQuery> there = store.run(kHasTable, {{u":table"_s, QString(table.name)}});
+        if (!there)
+            return there.trouble();
+        if (there->next())
+            tables += table.name;
+    }
+    return tables;
 }
 
 // A text of a query that is made from the table of the schema alone.
@@ -69,16 +84,21 @@ Result<Findings> brokenPages(const Store &store)
 // A reply at full speed for twenty minutes; everything else is a line or a page.
 constexpr int kLongestReply = 16 * 1024 * 1024;
 constexpr int kLongestText = 64 * 1024;
-// Some ten times what nine models and every command come to.
+// Some ten times what nine models and every command come to. The journal grows as long as boards are surveyed.
 constexpr int kMostRows = 20000;
 
-QString countOfStrange(const SchemaTable &table, const QString &column)
+bool isOneOfJournal(const SchemaTable &table)
+{
+    return table.name.startsWith("Survey"_L1);
+}
+
+QString countOfStrange(const QString &column)
 {
     if (isNumberColumn(column))
         return u"total(typeof(%1) not in ('integer', 'null'))"_s.arg(column);
-    const bool reply = table.name == "Dados"_L1 && column == "Dados"_L1;
+    const bool isReply = column == "Dados"_L1 || column == "Reply"_L1;
     return u"total(typeof(%1) not in ('text', 'null') or length(cast(%1 as blob)) > %2)"_s.arg(column).arg(
-        reply ? kLongestReply : kLongestText);
+        isReply ? kLongestReply : kLongestText);
 }
 
 Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
@@ -86,12 +106,12 @@ Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
     const QStringList columns = columnsOf(table);
     QStringList counts{u"count(*)"_s};
     for (const QString &column : columns)
-        counts += countOfStrange(table, column);
+        counts += countOfStrange(column);
     const auto rows = rowsOf(store, u"Select %1 from %2"_s.arg(counts.join(u", "_s), table.name));
     if (!rows)
         return rows.trouble();
     Findings found;
-    if (const int count = rows->first().first().toInt(); count > kMostRows)
+    if (const int count = rows->first().first().toInt(); count > kMostRows && !isOneOfJournal(table))
         found += {Kind::Foreign, table.name, u"has %1 rows, far too many for a store"_s.arg(count)};
     for (qsizetype column = 0; column < columns.size(); ++column) {
         if (const int count = static_cast<int>(rows->first().value(column + 1).toDouble()))
@@ -101,11 +121,11 @@ Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
     return found;
 }
 
-Findings strangeValues(const Store &store, StoreRole role)
+Findings strangeValues(const Store &store, const Tables &tables)
 {
     Findings found;
     for (const SchemaTable &table : schemaTables()) {
-        if (std::ranges::find(tablesFor(role), table.name) != tablesFor(role).end())
+        if (tables.contains(table.name))
             found += foundOr(strangeValues(store, table));
     }
     return found;
@@ -146,11 +166,11 @@ Result<Findings> repeatedRows(const Store &store)
     return found;
 }
 
-Findings closerFindings(const Store &store, StoreRole role)
+Findings closerFindings(const Store &store, StoreRole role, const Tables &tables)
 {
     if (const Findings broken = foundOr(brokenPages(store)); !broken.isEmpty())
         return broken;
-    Findings found = strangeValues(store, role);
+    Findings found = strangeValues(store, tables);
     found += foundOr(changedRecordings(store));
     if (role == StoreRole::Reference)
         found += foundOr(repeatedRows(store));
@@ -159,10 +179,13 @@ Findings closerFindings(const Store &store, StoreRole role)
 
 Result<Findings> findingsIn(const Store &store, StoreRole role, Depth depth)
 {
-    for (const Result<Findings> &found : {strangeParts(store), strangeColumns(store, tablesFor(role))})
+    const Result<Tables> tables = tablesIn(store, role);
+    if (!tables)
+        return tables.trouble();
+    for (const Result<Findings> &found : {strangeParts(store), strangeColumns(store, *tables)})
         if (!found || !found->isEmpty())
             return found;
-    return depth == Depth::Quick ? Findings() : closerFindings(store, role);
+    return depth == Depth::Quick ? Findings() : closerFindings(store, role, *tables);
 }
 
 } // namespace
