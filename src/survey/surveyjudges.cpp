@@ -1,0 +1,171 @@
+#include "surveyjudges.h"
+
+#include "acornreading.h"
+#include "bateriareading.h"
+#include "buckldoreading.h"
+#include "catalogue.h"
+#include "chestnutreading.h"
+#include "i2creading.h"
+#include "icreading.h"
+#include "models.h"
+#include "nandreading.h"
+#include "outrosreading.h"
+#include "pmureading.h"
+#include "rfsreading.h"
+#include "tigrisreading.h"
+#include "tristarreading.h"
+#include "vcoresreading.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What stands in a rail's reading where it is never measured, and what ends a reading that is missing.
+constexpr QChar kNoReadingMark = u'*';
+constexpr double kWhole = 100;
+
+/// A rail that was read without a reference is told, one that was not is of no use to anybody.
+bool isTold(const EvaluatedRail &rail)
+{
+    return rail.verdict != Verdict::None || (!rail.row.leitura.isEmpty() && !rail.row.leitura.endsWith(kNoReadingMark));
+}
+
+QList<Judgement> judgeRails(const RailScreenTraits &traits, const SurveyInput &input)
+{
+    const RailInput reading{.reply = input.reply,
+                            .cut = input.cut,
+                            .model = input.model,
+                            .language = input.language,
+                            .order = traits.loadOrder};
+    QList<Judgement> judgements;
+    for (const RailKind &kind : traits.kinds)
+        for (const EvaluatedRail &rail : evaluatedRails(traits, reading, input.reference.rails.value(kind.kind)))
+            if (isTold(rail))
+                judgements.append(judgementOf(rail, traits.name));
+    return judgements;
+}
+
+ChipInput chipInput(const SurveyInput &input)
+{
+    return {input.reply, input.cut, input.model, input.language};
+}
+
+/// What a reading told without holding it against anything.
+QList<Judgement> withFacts(const Panel &panel)
+{
+    QList<Judgement> judgements = panel.judgements;
+    for (const Row &fact : panel.facts) {
+        const QString reading = fact.cell(u"Leitura");
+        if (fact.verdict == Verdict::None && !reading.isEmpty() && reading != kNoReadingMark)
+            judgements.append({.what = fact.cell(u"Dado"), .reading = reading, .screen = panel.screen});
+    }
+    return judgements;
+}
+
+QString lineWith(const QString &reply, QLatin1StringView word)
+{
+    const QStringList lines = reply.split(u'\n');
+    const auto found = std::ranges::find_if(lines, [word](const QString &line) { return line.contains(word); });
+    return found == lines.end() ? QString() : found->trimmed();
+}
+
+Judgement health(const SurveyInput &input)
+{
+    const SurveyReference &reference = input.reference;
+    const QStringView source = reference.isBatteryPreset ? u"BATERIA_PADRAO" : u"BATERIA_AJUSTE";
+    Judgement judgement{.what = caption(batteryFact(0), input.language).trimmed(),
+                        .reading = caption(u"Sem Medição", input.language),
+                        .reference = u"≥ %1 %"_s.arg(reference.batteryWorn),
+                        .source = caption(source, input.language),
+                        .rule = Rule{reference.batteryWorn - kWhole, {}, AtLimit::Good},
+                        .verdict = isGaugeShort(input.model) ? Verdict::None : Verdict::Incomplete,
+                        .screen = u"Bateria"_s,
+                        .line = lineWith(input.reply, "nominal-capacity:"_L1)};
+    const auto percent = batteryHealth(input.reply);
+    if (!percent)
+        return judgement;
+    judgement.reading = u"%1 %"_s.arg(*percent);
+    judgement.deviation = *percent - kWhole;
+    judgement.verdict = judged(judgement.deviation, *judgement.rule);
+    return judgement;
+}
+
+} // namespace
+
+QList<Judgement> judgePower(const SurveyInput &input)
+{
+    QList<Judgement> judgements = judgeRails(buckLdoTraits(), input) + judgeRails(vcoresTraits(), input) +
+                                  judgeRails(pmuTraits(), input) + readTristar(chipInput(input)).judgements;
+    if (hasOledPanel(input.model))
+        judgements += readAcorn(chipInput(input)).judgements;
+    return judgements;
+}
+
+QList<Judgement> judgeCharger(const SurveyInput &input)
+{
+    return readTigris(chipInput(input)).judgements;
+}
+
+QList<Judgement> judgeDisplayChip(const SurveyInput &input)
+{
+    return readChestnut(chipInput(input)).judgements;
+}
+
+QList<Judgement> judgePortChip(const SurveyInput &input)
+{
+    return readIC({input.reply, input.cut, input.model, input.language}).judgements;
+}
+
+QList<Judgement> judgeBattery(const SurveyInput &input)
+{
+    const Judgement worn = health(input);
+    QList<Judgement> judgements{worn};
+    for (const Judgement &fact : withFacts(readBateria({input.reply, input.model, input.language})))
+        if (fact.what != worn.what)
+            judgements.append(fact);
+    return judgements;
+}
+
+QList<Judgement> judgeBus(const SurveyInput &input)
+{
+    return readI2C({.replies = {{input.index, input.reply, input.cut}},
+                    .expected = input.reference.devices,
+                    .bus = input.index,
+                    .model = input.model,
+                    .language = input.language})
+        .judgements;
+}
+
+QList<Judgement> judgeStorage(const SurveyInput &input)
+{
+    return withFacts(readNand({.test = static_cast<NandTest>(input.index),
+                               .reply = input.reply,
+                               .isWhole = true,
+                               .cut = input.cut,
+                               .model = input.model,
+                               .language = input.language}));
+}
+
+QList<Judgement> judgeRadio(const SurveyInput &input)
+{
+    return readRadio({.radio = input.index,
+                      .action = RadioAction::On,
+                      .reply = input.reply,
+                      .isWhole = true,
+                      .cut = input.cut,
+                      .language = input.language})
+        .judgements;
+}
+
+QList<Judgement> judgeMemory(const SurveyInput &input)
+{
+    return readMemory({.index = input.index,
+                       .reply = input.reply,
+                       .isWhole = true,
+                       .cut = input.cut,
+                       .model = input.model,
+                       .language = input.language})
+        .judgements;
+}
