@@ -153,6 +153,32 @@ CLI::App *addRecord(CLI::App &app, Arguments &arguments)
     return record;
 }
 
+/// Every reading that fits the model; what takes long only when it is asked for.
+CLI::App *addSurvey(CLI::App &app, Arguments &arguments)
+{
+    static const std::map<std::string, SurveyExtra> kExtras{{"syscfg", SurveyExtra::Syscfg},
+                                                            {"memory", SurveyExtra::Memory}};
+    CLI::App *survey = app.add_subcommand("survey", "every reading that fits the model, one table of findings");
+    addCommon(*survey, arguments.common);
+    addPort(*survey, arguments.common);
+    addModel(*survey, arguments.common, "model of the phone (else detected)");
+    survey
+        ->add_option_function<std::vector<SurveyExtra>>(
+            "--with",
+            [&arguments](const std::vector<SurveyExtra> &extras) {
+                for (const SurveyExtra extra : extras)
+                    arguments.survey.extras |= extra;
+            },
+            "what takes long as well: syscfg, memory")
+        ->transform(CLI::CheckedTransformer(kExtras).description("{syscfg,memory}"))
+        ->delimiter(',');
+    addText(*survey, "--name", arguments.survey.name, "who surveys (else as the store says)");
+    addText(*survey, "--note", arguments.survey.note, "a note on the board, for the journal");
+    survey->add_flag_callback(
+        "--no-journal", [&arguments] { arguments.survey.journaling = Journaling::None; }, "leave the journal as it is");
+    return survey;
+}
+
 /// Either a phone is asked, or a saved reply of a known model is taken.
 CLI::App *addCompare(CLI::App &app, Arguments &arguments)
 {
@@ -201,6 +227,7 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
 
     CLI::App *record = addRecord(app, arguments);
     CLI::App *compare = addCompare(app, arguments);
+    CLI::App *survey = addSurvey(app, arguments);
     CLI::App *sim = app.add_subcommand("sim", "run a simulated phone and print its device path");
     addText(*sim, "phone", arguments.text, "MODEL[,fault...], for example \"IP 7,ldo2=1200\"")->required();
     sim->footer("Faults: " + faultHelp().toStdString() +
@@ -209,7 +236,8 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
     Commands commands{{ports, Arguments::Command::Ports},     {detect, Arguments::Command::Detect},
                       {send, Arguments::Command::Send},       {run, Arguments::Command::Run},
                       {judge, Arguments::Command::Judge},     {record, Arguments::Command::Record},
-                      {compare, Arguments::Command::Compare}, {sim, Arguments::Command::Sim}};
+                      {compare, Arguments::Command::Compare}, {survey, Arguments::Command::Survey},
+                      {sim, Arguments::Command::Sim}};
     addStore(app, arguments, commands);
     return commands;
 }

@@ -3,6 +3,7 @@
 #include "consoleerrand.h"
 #include "exitcode.h"
 #include "options.h"
+#include "surveyerrand.h"
 
 #include <QString>
 
@@ -23,6 +24,7 @@ struct Arguments
         Store,
         Record,
         Compare,
+        Survey,
         Sim
     };
 
@@ -30,6 +32,7 @@ struct Arguments
     CommonOptions common;
     ScreenOptions screen;
     ConsoleOptions console;
+    SurveyOptions survey;
     const StoreCommand *storeCommand = nullptr;
     QString text;  ///< the command line to send, the phone to simulate, or the first word after a store command
     QString value; ///< the second one

@@ -25,15 +25,25 @@ void Errand::watchSession()
         },
         Qt::QueuedConnection);
     connect(&session(), &Session::connectFailed, this, [this] { finish(ExitCode::Link); });
-    connect(&session(), &Session::linkLost, this, [this] { fail({{u"LINK_LOST"_s}}, ExitCode::Link); });
+    connect(&session(), &Session::linkLost, this, &Errand::linkWasLost);
     connect(&session(), &Session::storeFailed, this,
             [this](const Trouble &trouble) { fail(trouble, ExitCode::Store); });
     connect(&session(), &Session::refused, this, [this](const Notice &why) {
         if (!m_finished)
             printError(oneLine({why}, language()));
     });
-    connect(&m_timeout, &QTimer::timeout, this, [this] { fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link); });
+    connect(&m_timeout, &QTimer::timeout, this, &Errand::timedOut);
     m_timeout.setSingleShot(true);
+}
+
+void Errand::linkWasLost()
+{
+    fail({{u"LINK_LOST"_s}}, ExitCode::Link);
+}
+
+void Errand::timedOut()
+{
+    fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link);
 }
 
 void Errand::start()

@@ -29,6 +29,9 @@ protected:
 
     /// The phone is connected; its model is known if it could be told.
     virtual void connectedToPhone() = 0;
+    /// The line died, or the time that was given is over: by default the command fails.
+    virtual void linkWasLost();
+    virtual void timedOut();
     void connectToPhone();
     bool isFinished() const { return m_finished; }
     void finish(ExitCode code);

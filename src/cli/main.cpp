@@ -5,6 +5,7 @@
 #include "senderrand.h"
 #include "simerrand.h"
 #include "storecommands.h"
+#include "surveyerrand.h"
 #include "terminal.h"
 
 #include <QCoreApplication>
@@ -76,6 +77,10 @@ static int runCommand(QCoreApplication &app, const Arguments &arguments)
         return runOnReply<RecordErrand>(app, arguments.common, arguments.console);
     case Arguments::Command::Compare:
         return runOnReply<CompareErrand>(app, arguments.common, arguments.console);
+    case Arguments::Command::Survey: {
+        SurveyErrand errand(arguments.common, arguments.survey);
+        return runErrand(app, errand);
+    }
     case Arguments::Command::Sim:
         return simulate(app, arguments);
     case Arguments::Command::Detect: {

@@ -1,5 +1,6 @@
 #include "columns.h"
 #include "data/otherprogram.h"
+#include "journal.h"
 #include "phoneprofile.h"
 
 #include <QFile>
@@ -11,6 +12,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -345,6 +347,62 @@ private slots:
         QCOMPARE(locked.code, 4);
         QCOMPARE(locked.out, QByteArray());
         QVERIFY(locked.errors.contains(path.toUtf8()));
+    }
+
+    void surveyIsOneTable()
+    {
+        const Outcome survey =
+            atHome(u"survey --lang en --note wet --port \"sim:IP 6s,ldo2=1200,i2c1:75=off,battery=worn\""_s);
+        QCOMPARE(survey.code, 1);
+        QCOMPARE(survey.errors, QByteArray()); // no progress into a pipe
+        const QByteArrayList lines = survey.out.split('\n');
+        QVERIFY(lines[2].startsWith("Verdict") && lines[3].startsWith("Fail") && lines[6].startsWith("Pass"));
+        QVERIFY(survey.out.contains("FAIL (3 failed, "));
+    }
+
+    void surveyForScripts()
+    {
+        const Outcome survey = atHome(u"survey --json --no-journal --with memory --port \"sim:IP X,drop@90000\""_s);
+        QCOMPARE(survey.code, 0);
+        const QJsonObject json = survey.json();
+        QCOMPARE(json.value(u"outcome"_s).toString(), u"finished"_s);
+        QVERIFY(json.value(u"journal"_s).isNull());
+        const QJsonArray findings = json.value(u"findings"_s).toArray();
+        QVERIFY(std::ranges::any_of(findings, [](const QJsonValue &one) {
+            return one.toObject().value(u"what"_s) == u"RAM"_s && one.toObject().value(u"verdict"_s) == u"pass"_s;
+        }));
+        const Outcome lost = atHome(u"survey --json --port \"sim:IP X,drop@2000\""_s);
+        QCOMPARE(lost.code, 3);
+        QCOMPARE(lost.json().value(u"outcome"_s).toString(), u"link lost"_s);
+        QVERIFY(!lost.json().value(u"findings"_s).toArray().isEmpty());
+        QCOMPARE(lost.errors.count('\n'), 1);
+    }
+
+    void surveyKilledHalfWayIsInTheJournal()
+    {
+        for (const int answers : {2, 4, 7}) {
+            QProcess program;
+            program.start(QStringLiteral(PRELT_PROGRAM),
+                          {u"survey"_s, u"--port"_s, u"sim:IP 6s,ldo2=1200"_s, u"--home"_s, m_home.path()});
+            const auto kept = [this]() -> std::optional<JournalEntry> {
+                const auto store = Store::open(m_home.filePath(u"Config.pmx"_s), Store::Access::Read, 1s);
+                const auto newest = store ? journal(*store) : store.trouble();
+                const bool isOurs = newest && !newest->isEmpty() && newest->first().outcome == "running"_L1;
+                const auto entry = isOurs ? journalEntry(*store, newest->first().id) : std::optional<JournalEntry>();
+                return entry ? *entry : std::nullopt;
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(kept() && kept()->replies.size() >= answers, 20000);
+            program.kill();
+            QVERIFY(program.waitForFinished());
+            const auto entry = kept();
+            QVERIFY(entry && entry->survey.ended.isEmpty() && entry->survey.model == "IP 6s"_L1);
+            QCOMPARE(entry->survey.faults, 1);
+            const auto portChip = std::ranges::find(entry->findings, u"TRISTAR"_s, &JournalFinding::what);
+            QCOMPARE(portChip != entry->findings.end(), entry->replies.size() > 2); // judged when it was answered
+            QCOMPARE(atHome(u"store check"_s).code, 0);
+            Result<Store> store = Store::open(m_home.filePath(u"Config.pmx"_s), Store::Access::Write, 1s);
+            QVERIFY(store && deleteFromJournal(*store, entry->survey.id));
+        }
     }
 
     void exchangeIsTakenDown()

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "errand.h"
+#include "surveyscreen.h"
+
+/// What the command line says of a survey.
+struct SurveyOptions
+{
+    SurveyExtras extras = {};
+    QString pdfFile;
+    QString name;
+    QString note;
+    Journaling journaling = Journaling::Kept;
+};
+
+/// Surveys the board on a phone and prints one table of findings.
+class SurveyErrand : public Errand
+{
+    Q_OBJECT
+
+public:
+    SurveyErrand(CommonOptions options, SurveyOptions surveyOptions);
+
+    void start() override;
+
+protected:
+    void connectedToPhone() override;
+    void linkWasLost() override;
+    void timedOut() override;
+
+private:
+    void printProgress();
+    void printSurvey();
+    QString jsonText();
+    QString readableText();
+    ExitCode exitCode() const;
+
+    SurveyOptions m_surveyOptions;
+    SurveyScreen m_survey;
+    bool m_showsProgress;
+    bool m_isStarted = false;
+};
