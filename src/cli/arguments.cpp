@@ -172,6 +172,7 @@ CLI::App *addSurvey(CLI::App &app, Arguments &arguments)
             "what takes long as well: syscfg, memory")
         ->transform(CLI::CheckedTransformer(kExtras).description("{syscfg,memory}"))
         ->delimiter(',');
+    addText(*survey, "--pdf", arguments.survey.pdfFile, "write the report to this file")->check(emptyComplaint);
     addText(*survey, "--name", arguments.survey.name, "who surveys (else as the store says)");
     addText(*survey, "--note", arguments.survey.note, "a note on the board, for the journal");
     survey->add_flag_callback(

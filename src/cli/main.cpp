@@ -10,8 +10,10 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 
 #include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -104,13 +106,22 @@ static int unlessUnwritten(int code)
     return static_cast<int>(ExitCode::Usage);
 }
 
+/// A document needs the faces of the system, but no display.
+static std::unique_ptr<QCoreApplication> application(int &argc, char **argv, const Arguments &arguments)
+{
+    if (arguments.survey.pdfFile.isEmpty())
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(u"tavimo-prelt"_s);
-    QCoreApplication::setApplicationVersion(u"2.22"_s);
     const auto arguments = parseArguments(argc, argv);
     if (const auto *code = std::get_if<ExitCode>(&arguments))
         return static_cast<int>(*code);
-    return unlessUnwritten(runCommand(app, std::get<Arguments>(arguments)));
+    const auto app = application(argc, argv, std::get<Arguments>(arguments));
+    QCoreApplication::setApplicationName(u"tavimo-prelt"_s);
+    QCoreApplication::setApplicationVersion(u"2.22"_s);
+    return unlessUnwritten(runCommand(*app, std::get<Arguments>(arguments)));
 }

@@ -1,7 +1,9 @@
 #include "surveyerrand.h"
 
 #include "json.h"
+#include "reportpdf.h"
 #include "surveypanel.h"
+#include "surveyreport.h"
 #include "terminal.h"
 
 #include <array>
@@ -148,7 +150,16 @@ void SurveyErrand::printSurvey()
     if (!m_survey.hasReading()) // why was told when it was refused
         return finish(ExitCode::Link);
     printOut(options().json ? jsonText() : readableText());
+    if (!m_surveyOptions.pdfFile.isEmpty())
+        if (const Result<Done> written = writePdf(); !written)
+            return fail(written.trouble(), ExitCode::Usage);
     finish(exitCode());
+}
+
+Result<Done> SurveyErrand::writePdf()
+{
+    const SurveySigning signing{m_survey.surveyor(), m_survey.txtNota()};
+    return writeReport(reportOf(m_survey.run(), m_survey.findings(), signing, language()), m_surveyOptions.pdfFile);
 }
 
 QString SurveyErrand::jsonText()

@@ -31,6 +31,7 @@ protected:
 private:
     void printProgress();
     void printSurvey();
+    Result<Done> writePdf();
     QString jsonText();
     QString readableText();
     ExitCode exitCode() const;

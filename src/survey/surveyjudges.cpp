@@ -74,11 +74,12 @@ QString lineWith(const QString &reply, QLatin1StringView word)
 Judgement health(const SurveyInput &input)
 {
     const SurveyReference &reference = input.reference;
-    const QStringView source = reference.isBatteryPreset ? u"BATERIA_PADRAO" : u"BATERIA_AJUSTE";
+    const QStringView source =
+        reference.isBatteryPreset ? u"preset limit (setting battery-worn)" : u"setting battery-worn";
     Judgement judgement{.what = caption(batteryFact(0), input.language).trimmed(),
                         .reading = caption(u"Sem Medição", input.language),
                         .reference = u"≥ %1 %"_s.arg(reference.batteryWorn),
-                        .source = caption(source, input.language),
+                        .source = source.toString(),
                         .rule = Rule{reference.batteryWorn - kWhole, {}, AtLimit::Good},
                         .verdict = isGaugeShort(input.model) ? Verdict::None : Verdict::Incomplete,
                         .screen = u"Bateria"_s,

@@ -1,6 +1,7 @@
 #include "surveypanel.h"
 
 #include "catalogue.h"
+#include "sourcetext.h"
 #include "surveyscreen.h"
 
 #include <array>
@@ -25,7 +26,7 @@ Row rowOf(const Finding &finding, Language language)
                       {u"Leitura"_s, finding.reading},
                       {u"REF"_s, finding.reference},
                       {u"PORC"_s, deviationOf(finding)},
-                      {u"Fonte"_s, finding.source},
+                      {u"Fonte"_s, sourceText(finding.source, language)},
                       {u"Telas"_s, finding.screens.join(", "_L1)},
                       {u"Linha"_s, finding.line}},
             .deviation = finding.deviation,

@@ -135,7 +135,7 @@ private slots:
         const Finding worst = bench.survey.findings().first();
         QCOMPARE(worst.verdict, FindingVerdict::Fail);
         QCOMPARE(worst.reference, u"≥ 95 %"_s);
-        QCOMPARE(worst.source, u"ajuste battery-worn"_s);
+        QCOMPARE(worst.source, u"setting battery-worn"_s);
     }
 
     void silentPhoneIsNotMeasured()

@@ -1,0 +1,59 @@
+#include "surveyreport.h"
+
+#include "catalogue.h"
+#include "surveypanel.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A limit on one side alone is drawn on both.
+std::optional<double> toleranceOf(const Finding &finding)
+{
+    if (!finding.rule)
+        return {};
+    const double widest =
+        std::max(std::abs(finding.rule->lowest.value_or(0)), std::abs(finding.rule->highest.value_or(0)));
+    return widest > 0 ? std::optional(widest) : std::nullopt;
+}
+
+ReportFinding rowOf(const Finding &finding)
+{
+    return {.what = finding.what,
+            .reading = finding.reading,
+            .reference = finding.reference,
+            .source = finding.source,
+            .deviationText = deviationOf(finding),
+            .line = finding.line,
+            .screen = finding.screens.join(", "_L1),
+            .deviation = finding.deviation,
+            .tolerance = toleranceOf(finding),
+            .verdict = finding.verdict};
+}
+
+/// A survey that was cut short says so where the customer reads.
+QString noteOf(const SurveyRun &run, const QString &note, Language language)
+{
+    const QString end = run.end == SurveyEnd::Finished ? QString() : caption(captionKey(run.end), language);
+    return (end + u' ' + note).trimmed();
+}
+
+} // namespace
+
+ReportDocument reportOf(const SurveyRun &run, const QList<Finding> &findings, const SurveySigning &signing,
+                        Language language)
+{
+    ReportDocument report{.title = caption(u"Vistoria", language),
+                          .shop = signing.name,
+                          .logoFile = signing.logoFile,
+                          .model = run.model,
+                          .serial = run.serial().isEmpty() ? caption(u"desconhecido", language) : run.serial(),
+                          .date = run.started.toString(u"yyyy-MM-dd HH:mm"_s),
+                          .note = noteOf(run, signing.note, language),
+                          .language = language};
+    std::ranges::transform(findings, std::back_inserter(report.findings), rowOf);
+    return report;
+}
