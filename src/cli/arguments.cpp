@@ -156,21 +156,19 @@ CLI::App *addRecord(CLI::App &app, Arguments &arguments)
 /// Every reading that fits the model; what takes long only when it is asked for.
 CLI::App *addSurvey(CLI::App &app, Arguments &arguments)
 {
-    static const std::map<std::string, SurveyExtra> kExtras{{"syscfg", SurveyExtra::Syscfg},
-                                                            {"memory", SurveyExtra::Memory}};
     CLI::App *survey = app.add_subcommand("survey", "every reading that fits the model, one table of findings");
     addCommon(*survey, arguments.common);
     addPort(*survey, arguments.common);
     addModel(*survey, arguments.common, "model of the phone (else detected)");
     survey
-        ->add_option_function<std::vector<SurveyExtra>>(
+        ->add_option_function<std::vector<std::string>>(
             "--with",
-            [&arguments](const std::vector<SurveyExtra> &extras) {
-                for (const SurveyExtra extra : extras)
-                    arguments.survey.extras |= extra;
+            [&arguments](const std::vector<std::string> &extras) {
+                for (const std::string &extra : extras)
+                    arguments.survey.extras |= extra == "syscfg" ? SurveyExtra::Syscfg : SurveyExtra::Memory;
             },
-            "what takes long as well: syscfg, memory")
-        ->transform(CLI::CheckedTransformer(kExtras).description("{syscfg,memory}"))
+            "what takes long as well")
+        ->check(CLI::IsMember({"syscfg", "memory"}))
         ->delimiter(',');
     addText(*survey, "--pdf", arguments.survey.pdfFile, "write the report to this file")->check(emptyComplaint);
     addText(*survey, "--name", arguments.survey.name, "who surveys (else as the store says)");

@@ -73,7 +73,7 @@ QString tableOf(const QList<Finding> &findings, Language language)
 } // namespace
 
 SurveyErrand::SurveyErrand(CommonOptions options, SurveyOptions surveyOptions)
-    : Errand(std::move(options)),
+    : ModelErrand(std::move(options)),
       m_surveyOptions(std::move(surveyOptions)),
       m_survey(session()),
       m_showsProgress(isatty(STDERR_FILENO) != 0)
@@ -84,21 +84,9 @@ SurveyErrand::SurveyErrand(CommonOptions options, SurveyOptions surveyOptions)
             [this](const Trouble &why) { printError(oneLine(why, language())); });
 }
 
-void SurveyErrand::start()
+void SurveyErrand::begin()
 {
-    Errand::start();
-    if (!isFinished())
-        connectToPhone();
-}
-
-void SurveyErrand::connectedToPhone()
-{
-    if (!options().model.isEmpty())
-        session().chooseModel(options().model);
-    if (!session().isModelKnown())
-        return fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
-    if (std::exchange(m_isStarted, true))
-        return;
+    m_isStarted = true;
     m_survey.open();
     for (const SurveyExtra extra : {SurveyExtra::Syscfg, SurveyExtra::Memory})
         m_survey.chooseExtra(extra, m_surveyOptions.extras.testFlag(extra));

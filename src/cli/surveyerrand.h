@@ -1,6 +1,6 @@
 #pragma once
 
-#include "errand.h"
+#include "modelerrand.h"
 #include "surveyscreen.h"
 
 /// What the command line says of a survey.
@@ -14,17 +14,15 @@ struct SurveyOptions
 };
 
 /// Surveys the board on a phone and prints one table of findings.
-class SurveyErrand : public Errand
+class SurveyErrand : public ModelErrand
 {
     Q_OBJECT
 
 public:
     SurveyErrand(CommonOptions options, SurveyOptions surveyOptions);
 
-    void start() override;
-
 protected:
-    void connectedToPhone() override;
+    void begin() override;
     void linkWasLost() override;
     void timedOut() override;
 
