@@ -5,7 +5,6 @@
 
 using namespace Qt::StringLiterals;
 
-
 ICScreen::ICScreen(Session &session, QObject *parent) : CheckScreen(session, u"IC"_s, u"5"_s, parent) {}
 
 void ICScreen::btBl_Click()

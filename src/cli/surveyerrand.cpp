@@ -93,7 +93,7 @@ void SurveyErrand::begin()
     m_survey.chooseJournaling(m_surveyOptions.journaling);
     if (!m_surveyOptions.name.isEmpty())
         m_survey.chooseName(m_surveyOptions.name);
-    m_survey.txtNota_Change(m_surveyOptions.note);
+    m_survey.chooseNote(m_surveyOptions.note);
     m_survey.read();
 }
 

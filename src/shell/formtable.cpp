@@ -15,6 +15,7 @@
 #include "referencias.h"
 #include "rfs.h"
 #include "rfs_esq.h"
+#include "survey.h"
 #include "tigris.h"
 #include "tristar.h"
 #include "vcores.h"
@@ -40,6 +41,7 @@ struct FormEntry
 };
 
 constexpr std::array kForms = {
+    FormEntry{"Survey"_L1, make<Survey>},
     FormEntry{"BuckLdo"_L1, make<BuckLdo>},
     FormEntry{"VCores"_L1, make<VCores>},
     FormEntry{"PMU"_L1, make<PMU>},

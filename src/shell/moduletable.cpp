@@ -8,6 +8,7 @@
 using namespace Qt::StringLiterals;
 
 static constexpr std::array kModules = {
+    Module{"Survey"_L1, u"Vistoria", "survey"_L1, "survey"_L1, ModuleGroup::Board, 0, "Ctrl+Shift+0"_L1},
     Module{"BuckLdo"_L1, u"Buck & Ldo", "buckldo"_L1, "buckldo"_L1, ModuleGroup::Power, 4, "Ctrl+1"_L1},
     Module{"VCores"_L1, u"VCore", "vcore"_L1, "vcore"_L1, ModuleGroup::Power, 3, "Ctrl+2"_L1},
     Module{"PMU"_L1, u"PMU", "pmu"_L1, "pmu"_L1, ModuleGroup::Power, 13, "Ctrl+3"_L1},
@@ -63,6 +64,6 @@ QStringView captionKey(const Module &module, const QString &model)
 
 QStringView groupCaption(ModuleGroup group)
 {
-    static constexpr std::array<QStringView, 4> kCaptions = {u"Energia", u"Chips", u"Testes", u"Ferramentas"};
+    static constexpr std::array<QStringView, 5> kCaptions = {u"Placa", u"Energia", u"Chips", u"Testes", u"Ferramentas"};
     return kCaptions.at(static_cast<std::size_t>(group));
 }

@@ -7,6 +7,7 @@
 /// The groups of the rail, in bench order.
 enum class ModuleGroup
 {
+    Board,
     Power,
     Chips,
     Tests,

@@ -10,6 +10,9 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 static constexpr auto kTick = 100ms;
+/// A question that nothing answered is asked again, after a pause in which what comes late is let pass.
+static constexpr int kRepeats = 2;
+static constexpr auto kPause = 1000ms;
 
 SurveyScreen::SurveyScreen(Session &session, QObject *parent)
     : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent), m_journal(session.store())
@@ -96,6 +99,7 @@ void SurveyScreen::begin(const SurveyReference &reference)
     if (m_journaling == Journaling::Kept)
         m_journal.begin(m_run, m_name, m_note);
     m_rest = 0ms;
+    m_repeats = 0;
     m_timerPasso.start();
     rebuild();
 }
@@ -138,6 +142,12 @@ void SurveyScreen::take(const Delivery &delivery)
 
 void SurveyScreen::takeReply(const Delivery &delivery)
 {
+    const bool isSilent = !m_run.answers.isEmpty() && m_run.answers.last().reply.isEmpty();
+    if (delivery.reply.isEmpty() && !isSilent && session().isConnected() && m_repeats++ < kRepeats) {
+        m_rest = kPause;
+        return showProgress();
+    }
+    m_repeats = 0;
     const SurveyStep step = m_run.waiting.first();
     const auto took = std::chrono::milliseconds(m_sinceAsked.elapsed()) + step.rest;
     takeAnswer(m_run, delivery.reply, delivery.cut, took);
@@ -197,6 +207,7 @@ void SurveyScreen::forget()
         return;
     m_run = {};
     m_note.clear();
+    emit noteForgotten();
     rebuild();
 }
 
@@ -212,12 +223,12 @@ void SurveyScreen::chooseFilter(Filter filter)
     rebuild();
 }
 
-void SurveyScreen::txtNota_Change(const QString &note)
+void SurveyScreen::keepNote()
 {
-    m_note = note;
     if (m_run.id.isEmpty() || m_journaling == Journaling::None)
         return;
     const QString id = m_run.id;
+    const QString note = m_note;
     withStore<Done>(
         Store::Access::Write, [id, note](Store &store) { return setJournalNote(store, id, note); },
         [](const Done &) {});

@@ -42,8 +42,10 @@ public:
     SurveyExtras extras() const { return m_extras; }
     void chooseFilter(Filter filter);
     void chooseJournaling(Journaling journaling) { m_journaling = journaling; }
-    /// The technician's note on this board; one that is typed after the survey began goes to the journal at once.
-    void txtNota_Change(const QString &note);
+    /// The technician's note on this board.
+    void chooseNote(const QString &note) { m_note = note; }
+    /// The note stands: that of a survey that has begun goes to the journal.
+    void keepNote();
     const QString &txtNota() const { return m_note; }
     /// Who signs the survey, in place of the name in the store.
     void chooseName(const QString &name) { m_name = name; }
@@ -72,6 +74,8 @@ signals:
     /// An answer was taken, or time went by.
     void progressed();
     void journalFailed(const Trouble &why);
+    /// Another phone: the note was not on it.
+    void noteForgotten();
 
 private:
     void load();
@@ -101,6 +105,7 @@ private:
     bool m_isAsked = false; ///< the first step that waits is in flight
     bool m_isCancelled = false;
     std::chrono::milliseconds m_rest{0};
+    int m_repeats = 0; ///< of the question that is asked now
     QElapsedTimer m_sinceAsked;
     QTimer m_timerPasso;
 };

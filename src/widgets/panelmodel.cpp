@@ -116,8 +116,9 @@ QString PanelModel::text(const Row &row, const GridColumn &column) const
 {
     if (column.kind == ColumnKind::Drift)
         return driftText(row.largestDrift());
-    if (column.kind != ColumnKind::Verdict)
-        return row.cell(column.key);
+    const QString cell = row.cell(column.key);
+    if (column.kind != ColumnKind::Verdict || !cell.isEmpty()) // a verdict may have a word of its own
+        return cell;
     // A row that nothing is held against says nothing.
     return row.verdict == Verdict::None ? QString() : verdictCaption(row.verdict, m_language);
 }

@@ -66,6 +66,7 @@ struct SurveyBench : PhoneBench
     }
 
     SurveyScreen survey{*session};
+    const QString kCharger = u"pmuadc --sel tigris --read all"_s;
 };
 
 } // namespace
@@ -148,6 +149,20 @@ private slots:
         QVERIFY(bench.found(FindingVerdict::Pass).isEmpty());
     }
 
+    void questionWithoutAnswerIsRepeated()
+    {
+        SurveyBench bench(u"IP 7"_s, Journaling::None);
+        bench.survey.read();
+        bench.runUntil(u"tristar -p"_s);
+        bench.port.keptBytes = 0;
+        bench.runUntil(bench.kCharger); // lost on its way
+        bench.port.keptBytes = PhonePort::kAll;
+        while (bench.survey.isRunning())
+            bench.step();
+        QCOMPARE(bench.port.commands.count(bench.kCharger.toLatin1()), 2);
+        QCOMPARE(bench.open(), QStringList());
+    }
+
     void cancelKeepsWhatIsDone()
     {
         SurveyBench bench(u"IP 6s,ldo2=1200"_s);
@@ -193,7 +208,7 @@ private slots:
     void journalGrowsWithTheSurvey()
     {
         SurveyBench bench(u"IP 6s,ldo2=1200"_s);
-        bench.survey.txtNota_Change(u"water damage"_s);
+        bench.survey.chooseNote(u"water damage"_s);
         bench.survey.read();
         QCOMPARE(bench.kept().survey.outcome, u"running"_s);
         bench.runUntil(u"pmuadc --read all"_s);

@@ -43,6 +43,7 @@ constexpr Place kHouse[] = {
     {"prelt_chips_forms"_L1, 9, 8},
     {"prelt_checks_forms"_L1, 9, 8},
     {"prelt_console_forms"_L1, 9, 8},
+    {"prelt_survey_forms"_L1, 9, 8},
     {"prelt_window"_L1, 10, 9},
     {"tavimo-prelt"_L1, 11, 10},
     {"gallery"_L1, 11, 10},

@@ -1,0 +1,146 @@
+#include "survey.h"
+
+#include "icons.h"
+#include "panelgrid.h"
+#include "reportpdf.h"
+#include "surveyreport.h"
+#include "surveyscreen.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QtConcurrent>
+
+using namespace Qt::StringLiterals;
+
+static constexpr std::array kColumns = {
+    GridColumn{u"Veredito", u"Veredito", ColumnKind::Verdict},
+    GridColumn{u"Achado", u"Achado", ColumnKind::Name},
+    GridColumn{u"Leitura", u"Leitura", ColumnKind::Number},
+    GridColumn{u"REF", u"Referência", ColumnKind::Number},
+    GridColumn{u"PORC", u"Desvio", ColumnKind::Deviation},
+    GridColumn{u"Telas", u"Telas"},
+    GridColumn{u"Fonte", u"Fonte"},
+    GridColumn{u"Linha", u"Linha da resposta"},
+};
+
+Survey::Survey(Session &session, QWidget *parent)
+    : ReadingForm(std::make_unique<SurveyScreen>(session), parent),
+      m_survey(static_cast<SurveyScreen &>(screen())),
+      m_rows(kColumns),
+      m_grid(named(new PanelGrid(m_rows), u"DBGrid1"_s)),
+      m_syscfg(named(new QCheckBox, u"OpSyscfg"_s)),
+      m_memory(named(new QCheckBox, u"OpMemoria"_s)),
+      m_faults(named(new QCheckBox, u"OpFalhas"_s)),
+      m_lbNota(new QLabel),
+      m_nota(named(new QLineEdit, u"txtNota"_s)),
+      m_btPdf(named(new QPushButton, u"btPDF"_s)),
+      m_btCancelar(named(new QPushButton, u"btCancelar"_s)),
+      m_btIniciar(readButton(u"btIniciar"_s))
+{
+    layOut({.note = u"lbProgresso"_s,
+            .buttons = {m_btPdf, m_btCancelar, m_btIniciar},
+            .choices = {m_syscfg, m_memory, m_faults, nullptr, named(new QLabel, u"lbSerie"_s)},
+            .body = body()});
+    painter().setRows(&m_rows);
+    connectControls();
+}
+
+QWidget *Survey::body()
+{
+    auto *frame = new QWidget;
+    auto *column = controlColumn(frame);
+    auto *note = controlRow();
+    m_lbNota->setBuddy(m_nota);
+    note->addWidget(m_lbNota);
+    note->addWidget(m_nota, 1);
+    column->addWidget(m_grid, 1);
+    column->addLayout(note);
+    return frame;
+}
+
+void Survey::connectControls()
+{
+    connect(m_btIniciar, &QPushButton::clicked, &m_survey, &SurveyScreen::btIniciar_Click);
+    connect(m_btCancelar, &QPushButton::clicked, &m_survey, &SurveyScreen::btCancelar_Click);
+    connect(m_btPdf, &QPushButton::clicked, this, &Survey::btPDF_Click);
+    connect(m_syscfg, &QCheckBox::clicked, &m_survey,
+            [this](bool on) { m_survey.chooseExtra(SurveyExtra::Syscfg, on); });
+    connect(m_memory, &QCheckBox::clicked, &m_survey,
+            [this](bool on) { m_survey.chooseExtra(SurveyExtra::Memory, on); });
+    connect(m_faults, &QCheckBox::clicked, &m_survey,
+            [this](bool on) { m_survey.chooseFilter(on ? SurveyScreen::Filter::Faults : SurveyScreen::Filter::All); });
+    connect(m_nota, &QLineEdit::textEdited, &m_survey, &SurveyScreen::chooseNote);
+    connect(m_nota, &QLineEdit::editingFinished, &m_survey, &SurveyScreen::keepNote);
+    connect(&m_survey, &SurveyScreen::noteForgotten, m_nota, &QLineEdit::clear);
+    connect(m_grid, &PanelGrid::doubleClicked, &m_survey,
+            [this](const QModelIndex &place) { m_survey.DBGrid1_Click(place.row()); });
+    connect(m_grid, &PanelGrid::exportFailed, this, [this](const QString &path, const QString &reason) {
+        m_survey.session().boxes().message({{u"STORE_FAILED"_s, {path, reason}}});
+    });
+    connect(&m_survey, &SurveyScreen::journalFailed, this,
+            [this](const Trouble &why) { m_survey.session().refuse(why.what); });
+    connect(&m_writing, &QFutureWatcherBase::finished, this, &Survey::tellWritten);
+}
+
+void Survey::btPDF_Click()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto *const dialog = new QFileDialog(this, text(u"Salvar PDF"), folder, u"PDF (*.pdf)"_s);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(u"pdf"_s);
+    dialog->selectFile(u"%1 %2.pdf"_s.arg(text(u"Vistoria"), m_survey.run().model));
+    connect(dialog, &QFileDialog::fileSelected, this, &Survey::savePdf);
+    dialog->open();
+}
+
+void Survey::savePdf(const QString &path)
+{
+    const ReportDocument report =
+        reportOf(m_survey.run(), m_survey.findings(), {m_survey.surveyor(), m_survey.txtNota()}, language());
+    m_btPdf->setEnabled(false);
+    m_writing.setFuture(QtConcurrent::run([report, path] { return writeReport(report, path); }));
+}
+
+void Survey::tellWritten()
+{
+    m_btPdf->setEnabled(m_survey.hasReading());
+    if (const Result<Done> written = m_writing.result(); !written)
+        m_survey.session().boxes().message(written.trouble());
+}
+
+void Survey::goTo(const QString &what)
+{
+    for (int place = 0; place < m_rows.rowCount(); ++place)
+        if (m_rows.row(place).cell(u"Achado") == what)
+            return m_grid->selectRow(place);
+}
+
+void Survey::Traducao_Form()
+{
+    ReadingForm::Traducao_Form();
+    m_btIniciar->setAccessibleName(text(u"Iniciar vistoria"));
+    m_btPdf->setText(text(u"Salvar PDF"));
+    m_btPdf->setIcon(lineIcon(u"export"));
+    m_syscfg->setText(text(u"syscfg"));
+    m_memory->setText(text(u"MEM RAM Teste"));
+    m_faults->setText(text(u"Só o que não está bom"));
+    m_lbNota->setText(text(u"Observação"));
+    m_nota->setAccessibleName(text(u"Observação"));
+    m_nota->setPlaceholderText(text(u"DICA_NOTA"));
+    findChild<QLabel *>(u"lbProgresso"_s)->setAccessibleName(text(u"Vistoria"));
+    m_grid->setLanguage(language());
+    m_grid->setEmptyText(text(u"DICA_VISTORIA_VAZIA"));
+}
+
+void Survey::paintPanel()
+{
+    ReadingForm::paintPanel();
+    m_grid->setExportName(u"%1 %2"_s.arg(text(u"Vistoria"), m_survey.run().model));
+    m_grid->setAccessibleName(screen().panel().title);
+}

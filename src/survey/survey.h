@@ -1,0 +1,50 @@
+#pragma once
+
+#include "panelmodel.h"
+#include "readingform.h"
+#include "result.h"
+
+#include <QFutureWatcher>
+
+class PanelGrid;
+class QCheckBox;
+class QLineEdit;
+class SurveyScreen;
+
+/// The form of the survey: what is asked besides, progress, the technician's note and one table of findings.
+class Survey : public ReadingForm
+{
+    Q_OBJECT
+
+public:
+    explicit Survey(Session &session, QWidget *parent = nullptr);
+
+    void Traducao_Form() override;
+    void goTo(const QString &what) override;
+
+    /// Writes the report, away from the interface. What keeps it from being written is told in a box.
+    void savePdf(const QString &path);
+
+protected:
+    QStringView readHint() const override { return u"DICA_VISTORIA"; }
+    void paintPanel() override;
+
+private:
+    QWidget *body();
+    void connectControls();
+    void btPDF_Click();
+    void tellWritten();
+
+    SurveyScreen &m_survey;
+    PanelModel m_rows;
+    PanelGrid *m_grid;
+    QCheckBox *m_syscfg;
+    QCheckBox *m_memory;
+    QCheckBox *m_faults;
+    QLabel *m_lbNota;
+    QLineEdit *m_nota;
+    QPushButton *m_btPdf;
+    QPushButton *m_btCancelar;
+    QPushButton *m_btIniciar;
+    QFutureWatcher<Result<Done>> m_writing;
+};
