@@ -8,6 +8,7 @@
 #include "displays.h"
 #include "i2c.h"
 #include "ic.h"
+#include "journalform.h"
 #include "master.h"
 #include "nand.h"
 #include "outros.h"
@@ -60,6 +61,7 @@ constexpr std::array kForms = {
     FormEntry{"RFs_Esq"_L1, make<RFs_Esq>},
     FormEntry{"Nand"_L1, make<Nand>},
     FormEntry{"Outros"_L1, make<Outros>},
+    FormEntry{"Journal"_L1, make<Journal>},
     FormEntry{"Referencias"_L1, make<Referencias>},
 };
 

@@ -27,6 +27,7 @@ static constexpr std::array kModules = {
     Module{"Outros"_L1, u"Testes Adicionais", "memory"_L1, "memory"_L1, ModuleGroup::Tests, 17, "Ctrl+Shift+5"_L1},
     Module{"Master"_L1, u"Console", "console"_L1, {}, ModuleGroup::Tools, 2, "Ctrl+Shift+6"_L1},
     Module{"zAjustes"_L1, u"Administração de comandos", "admin"_L1, {}, ModuleGroup::Tools, 0, "Ctrl+Shift+7"_L1},
+    Module{"Journal"_L1, u"Diário de vistorias", "journal"_L1, {}, ModuleGroup::Tools, 0, "Ctrl+Shift+J"_L1},
     Module{"Referencias"_L1, u"Placas de referência", "record"_L1, {}, ModuleGroup::Tools, 0, "Ctrl+Shift+9"_L1},
 };
 

@@ -23,6 +23,8 @@ public:
     /// The selected cells as text; without a selection the whole table with its captions.
     QString copyText() const;
     QByteArray csv() const { return m_export->csv(); }
+    /// Asks for a file and writes the table there.
+    void exportCsv() { m_export->exportCsv(); }
 
 signals:
     void exportFailed(const QString &path, const QString &reason);

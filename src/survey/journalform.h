@@ -1,0 +1,64 @@
+#pragma once
+
+#include "journalscreen.h"
+#include "panelmodel.h"
+#include "screenform.h"
+
+class PanelGrid;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QStackedWidget;
+class TextPane;
+class VerdictBadge;
+
+/// The form of the journal: the surveys above, below them what the chosen ones say.
+class Journal : public ScreenForm
+{
+    Q_OBJECT
+
+public:
+    explicit Journal(Session &session, QWidget *parent = nullptr);
+
+    void Traducao_Form() override;
+
+protected:
+    void paintPanel() override;
+
+private:
+    QWidget *list();
+    QWidget *details();
+    QWidget *head();
+    QWidget *buttons();
+    void connectButtons();
+    void connectEdits();
+    QStringList chosen() const;
+    void paintChoice();
+    void paintDetails();
+    void paintNote();
+    void btJSON_Click();
+    void writeJson(const QString &path);
+    void tellUnwritten(const QString &path, const QString &reason);
+    QList<PanelGrid *> grids() const { return {m_list, m_findings, m_comparison}; }
+
+    JournalScreen &m_journal;
+    PanelModel m_surveyRows;
+    PanelModel m_findingRows;
+    PanelModel m_outputRows;
+    PanelGrid *m_list;
+    PanelGrid *m_findings;
+    PanelGrid *m_comparison;
+    TextPane *m_exchange;
+    QString m_exchangeText;
+    QStackedWidget *m_body;
+    VerdictBadge *m_badge;
+    QLineEdit *m_search;
+    QLabel *m_lbNota;
+    QLineEdit *m_note;
+    QPushButton *m_btComparar;
+    QPushButton *m_btTroca;
+    QPushButton *m_btImprimir;
+    QPushButton *m_btCsv;
+    QPushButton *m_btJson;
+    QPushButton *m_btExcluir;
+};
