@@ -20,10 +20,12 @@ bool isOpen(const Judgement &judgement)
 Judgement gap(const SurveyAnswer &answer, Language language, QStringView reading)
 {
     const ReplyCode *row = replyCode(answer.step.code);
+    const QString screen = row ? QString(row->screen) : QString();
     return {.what = caption(captionKey(answer.step.part), language) + u": "_s + answer.step.command,
             .reading = caption(reading, language),
             .verdict = Verdict::Incomplete,
-            .screen = row ? QString(row->screen) : QString()};
+            .screen = screen,
+            .output = screen + u'/' + answer.step.command};
 }
 
 QList<Judgement> judgementsOf(const SurveyAnswer &answer, const SurveyInput &input)

@@ -17,6 +17,7 @@
 #include "vcoresreading.h"
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -52,14 +53,23 @@ ChipInput chipInput(const SurveyInput &input)
     return {input.reply, input.cut, input.model, input.language};
 }
 
-/// What a reading told without holding it against anything.
-QList<Judgement> withFacts(const Panel &panel)
+/// In this language a fact is called for the journal, so that surveys in two languages tell of the same outputs.
+constexpr auto kKept = Language::Portuguese;
+
+/// What a reading told without holding it against anything. A reading has the same facts in every language.
+QList<Judgement> withFacts(const std::function<Panel(Language)> &read, Language language)
 {
+    const Panel panel = read(language);
+    const QList<Row> kept = read(kKept).facts;
     QList<Judgement> judgements = panel.judgements;
-    for (const Row &fact : panel.facts) {
+    for (qsizetype place = 0; place < panel.facts.size(); ++place) {
+        const Row &fact = panel.facts.at(place);
         const QString reading = fact.cell(u"Leitura");
         if (fact.verdict == Verdict::None && !reading.isEmpty() && reading != kNoReadingMark)
-            judgements.append({.what = fact.cell(u"Dado"), .reading = reading, .screen = panel.screen});
+            judgements.append({.what = fact.cell(u"Dado"),
+                               .reading = reading,
+                               .screen = panel.screen,
+                               .output = panel.screen + u'/' + kept.at(place).cell(u"Dado")});
     }
     return judgements;
 }
@@ -83,7 +93,8 @@ Judgement health(const SurveyInput &input)
                         .rule = Rule{reference.batteryWorn - kWhole, {}, AtLimit::Good},
                         .verdict = isGaugeShort(input.model) ? Verdict::None : Verdict::Incomplete,
                         .screen = u"Bateria"_s,
-                        .line = lineWith(input.reply, "nominal-capacity:"_L1)};
+                        .line = lineWith(input.reply, "nominal-capacity:"_L1),
+                        .output = u"Bateria/"_s + caption(batteryFact(0), kKept).trimmed()};
     const auto percent = batteryHealth(input.reply);
     if (!percent)
         return judgement;
@@ -123,7 +134,8 @@ QList<Judgement> judgeBattery(const SurveyInput &input)
 {
     const Judgement worn = health(input);
     QList<Judgement> judgements{worn};
-    for (const Judgement &fact : withFacts(readBateria({input.reply, input.model, input.language})))
+    const auto read = [&input](Language language) { return readBateria({input.reply, input.model, language}); };
+    for (const Judgement &fact : withFacts(read, input.language))
         if (fact.what != worn.what)
             judgements.append(fact);
     return judgements;
@@ -141,12 +153,15 @@ QList<Judgement> judgeBus(const SurveyInput &input)
 
 QList<Judgement> judgeStorage(const SurveyInput &input)
 {
-    return withFacts(readNand({.test = static_cast<NandTest>(input.index),
-                               .reply = input.reply,
-                               .isWhole = true,
-                               .cut = input.cut,
-                               .model = input.model,
-                               .language = input.language}));
+    const auto read = [&input](Language language) {
+        return readNand({.test = static_cast<NandTest>(input.index),
+                         .reply = input.reply,
+                         .isWhole = true,
+                         .cut = input.cut,
+                         .model = input.model,
+                         .language = language});
+    };
+    return withFacts(read, input.language);
 }
 
 QList<Judgement> judgeRadio(const SurveyInput &input)

@@ -124,6 +124,34 @@ private slots:
         QTEST(bench.survey.findings().first().screens.join(u", "_s), "screens");
     }
 
+    void outputsAreTheSameInEveryLanguage_data()
+    {
+        columns<qsizetype>({"kept"});
+        QTest::newRow("whole replies") << PhonePort::kAll;
+        QTest::newRow("cut replies") << qsizetype(60);
+        QTest::newRow("silence") << qsizetype(0);
+    }
+
+    /// Or else surveys in two languages could not be compared.
+    void outputsAreTheSameInEveryLanguage()
+    {
+        QFETCH(const qsizetype, kept);
+        SurveyBench bench(u"IP X"_s, Journaling::None);
+        bench.port.keptBytes = kept;
+        bench.survey.chooseExtra(SurveyExtra::Syscfg, true);
+        bench.survey.chooseExtra(SurveyExtra::Memory, true);
+        bench.runAll();
+        const auto outputs = [&bench](Language language) {
+            QStringList keys;
+            for (const Finding &finding : bench.survey.run().findings(language))
+                keys.append(finding.key);
+            return keys;
+        };
+        QVERIFY(!outputs(Language::Portuguese).isEmpty());
+        QCOMPARE(outputs(Language::English), outputs(Language::Portuguese));
+        QCOMPARE(outputs(Language::Spanish), outputs(Language::Portuguese));
+    }
+
     void batteryLimitIsASetting()
     {
         SurveyBench bench(u"IP 7"_s, Journaling::None); // 94 %
