@@ -66,11 +66,12 @@ QByteArray surveyJson(const JournalEntry &entry)
 QByteArray comparisonJson(const JournalEntry &before, const JournalEntry &after)
 {
     QJsonArray outputs;
-    for (const ComparedOutput &output : compareSurveys(findingsOf(before), findingsOf(after)))
+    for (const ComparedOutput &output : compareSurveys(findingsOf(before), findingsOf(after))) {
         outputs.append(QJsonObject{{u"what"_s, output.what},
                                    {u"change"_s, word(output.change)},
                                    {u"before"_s, orNull(output.before)},
                                    {u"after"_s, orNull(output.after)}});
+    }
     return QJsonDocument(QJsonObject{{u"before"_s, objectOf(before.survey)},
                                      {u"after"_s, objectOf(after.survey)},
                                      {u"outputs"_s, outputs}})

@@ -1,10 +1,10 @@
 #include "journalform.h"
 
 #include "icons.h"
+#include "journalpages.h"
 #include "journalpanel.h"
 #include "panelgrid.h"
 #include "readingform.h"
-#include "textpane.h"
 #include "theme.h"
 #include "verdictbadge.h"
 
@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -31,29 +30,6 @@ constexpr std::array kSurveyColumns = {
     GridColumn{u"Nota", u"Observação"},
 };
 
-constexpr std::array kFindingColumns = {
-    GridColumn{u"Veredito", u"Veredito", ColumnKind::Verdict},
-    GridColumn{u"Achado", u"Achado", ColumnKind::Name},
-    GridColumn{u"Leitura", u"Leitura", ColumnKind::Number},
-    GridColumn{u"REF", u"Referência", ColumnKind::Number},
-    GridColumn{u"PORC", u"Desvio", ColumnKind::Deviation},
-    GridColumn{u"Telas", u"Telas"},
-    GridColumn{u"Fonte", u"Fonte"},
-    GridColumn{u"Linha", u"Linha da resposta"},
-};
-
-constexpr std::array kOutputColumns = {
-    GridColumn{u"Mudanca", u"Mudança", ColumnKind::Verdict},
-    GridColumn{u"Achado", u"Achado", ColumnKind::Name},
-    GridColumn{u"Leitura1", u"Leitura antes", ColumnKind::Number},
-    GridColumn{u"Leitura2", u"Leitura depois", ColumnKind::Number},
-    GridColumn{u"REF", u"Referência", ColumnKind::Number},
-    GridColumn{u"PORC1", u"Desvio antes", ColumnKind::Number},
-    GridColumn{u"PORC2", u"Desvio depois", ColumnKind::Deviation},
-    GridColumn{u"Veredito1", u"Veredito antes"},
-    GridColumn{u"Veredito2", u"Veredito depois"},
-};
-
 constexpr int kListShare = 2;
 constexpr int kDetailsShare = 3;
 
@@ -63,8 +39,8 @@ Journal::Journal(Session &session, QWidget *parent)
     : ScreenForm(std::make_unique<JournalScreen>(session), parent),
       m_journal(static_cast<JournalScreen &>(screen())),
       m_surveyRows(kSurveyColumns),
-      m_findingRows(kFindingColumns),
-      m_outputRows(kOutputColumns)
+      m_list(named(new PanelGrid(m_surveyRows), u"DBGrid1"_s)),
+      m_pages(new JournalPages(m_journal))
 {
     auto *const split = new QSplitter(Qt::Vertical);
     split->setChildrenCollapsible(false);
@@ -81,7 +57,6 @@ QWidget *Journal::list()
 {
     m_search = named(new QLineEdit, u"txtBusca"_s);
     m_search->setClearButtonEnabled(true);
-    m_list = named(new PanelGrid(m_surveyRows), u"DBGrid1"_s);
     auto *const row = controlRow();
     row->addWidget(m_search, 1);
     row->addWidget(named(new QLabel, u"lbContagem"_s));
@@ -94,12 +69,6 @@ QWidget *Journal::list()
 
 QWidget *Journal::details()
 {
-    m_findings = named(new PanelGrid(m_findingRows), u"DBGrid2"_s);
-    m_comparison = named(new PanelGrid(m_outputRows), u"DBGrid3"_s);
-    m_exchange = new TextPane(u"txtTroca"_s);
-    m_body = new QStackedWidget;
-    for (QWidget *page : QList<QWidget *>{m_findings, m_comparison, m_exchange})
-        m_body->addWidget(page);
     m_lbNota = new QLabel;
     m_note = named(new QLineEdit, u"txtNota"_s);
     m_lbNota->setBuddy(m_note);
@@ -110,7 +79,7 @@ QWidget *Journal::details()
     auto *const column = controlColumn(widget);
     column->addWidget(head());
     column->addWidget(buttons());
-    column->addWidget(m_body, 1);
+    column->addWidget(m_pages, 1);
     column->addLayout(note);
     return widget;
 }
@@ -163,13 +132,12 @@ void Journal::connectButtons()
     connect(m_btComparar, &QPushButton::clicked, &m_journal, &JournalScreen::btComparar_Click);
     connect(m_btTroca, &QPushButton::clicked, &m_journal, &JournalScreen::btTroca_Click);
     connect(m_btImprimir, &QPushButton::clicked, &m_journal, &JournalScreen::btImprimir_Click);
-    connect(m_btCsv, &QPushButton::clicked, this,
-            [this] { (m_journal.isComparing() ? m_comparison : m_findings)->exportCsv(); });
+    connect(m_btCsv, &QPushButton::clicked, m_pages, &JournalPages::exportCsv);
     connect(m_btJson, &QPushButton::clicked, this, &Journal::btJSON_Click);
     connect(m_btExcluir, &QPushButton::clicked, this, &ScreenForm::keepingAsked);
     connect(m_btExcluir, &QPushButton::clicked, &m_journal, &JournalScreen::btExcluir_Click);
-    for (PanelGrid *grid : grids())
-        connect(grid, &PanelGrid::exportFailed, this, &Journal::tellUnwritten);
+    connect(m_list, &PanelGrid::exportFailed, this, &Journal::tellUnwritten);
+    connect(m_pages, &JournalPages::exportFailed, this, &Journal::tellUnwritten);
 }
 
 void Journal::connectEdits()
@@ -210,29 +178,15 @@ void Journal::paintChoice()
     m_list->viewport()->update();
 }
 
-void Journal::paintDetails()
-{
-    const Panel &panel = m_journal.panel();
-    m_findingRows.show(m_journal.isComparing() ? QList<Row>() : panel.rows);
-    m_outputRows.show(m_journal.isComparing() ? panel.rows : QList<Row>());
-    m_badge->setPanel(panel);
-    if (m_journal.isExchangeShown() && m_exchangeText != m_journal.exchange()) // it stays where it is read
-        m_exchange->replaceWith(m_exchangeText = m_journal.exchange());
-    QWidget *const grid = m_journal.isComparing() ? m_comparison : m_findings;
-    m_body->setCurrentWidget(m_journal.isExchangeShown() ? static_cast<QWidget *>(m_exchange) : grid);
-}
-
 void Journal::paintPanel()
 {
     ScreenForm::paintPanel();
     m_surveyRows.show(surveyRows(m_journal.surveys(), language()));
     m_list->setEmptyText(text(m_search->text().trimmed().isEmpty() ? u"DICA_DIARIO_VAZIO" : u"DICA_DIARIO_BUSCA"));
-    m_findings->setEmptyText(text(m_journal.chosen().isEmpty() ? u"DICA_DIARIO" : u"DICA_DIARIO_DUAS"));
     m_list->setExportName(text(u"Diário de vistorias"));
-    for (PanelGrid *grid : {m_findings, m_comparison})
-        grid->setExportName(m_journal.fileName());
     paintChoice();
-    paintDetails();
+    m_pages->showChosen(language());
+    m_badge->setPanel(m_journal.panel());
 }
 
 void Journal::paintNote()
@@ -275,7 +229,6 @@ void Journal::Traducao_Form()
     m_note->setPlaceholderText(text(u"DICA_NOTA"));
     m_btComparar->setText(text(u"Comparar com…"));
     m_btTroca->setText(text(u"Comunicação bruta"));
-    m_exchange->setAccessibleName(text(u"Comunicação bruta"));
     m_btImprimir->setText(text(u"Imprimir de novo"));
     m_btCsv->setText(text(u"Exportar CSV"));
     m_btJson->setText(text(u"Exportar JSON"));
@@ -284,9 +237,7 @@ void Journal::Traducao_Form()
     for (QPushButton *exported : {m_btCsv, m_btJson})
         exported->setIcon(lineIcon(u"export"));
     m_list->setAccessibleName(text(u"Diário de vistorias"));
-    m_findings->setAccessibleName(text(u"Achados"));
-    m_comparison->setAccessibleName(text(u"Comparar com…"));
     m_badge->setLanguage(language());
-    for (PanelGrid *grid : grids())
-        grid->setLanguage(language());
+    m_list->setLanguage(language());
+    m_pages->Traducao_Form(language());
 }

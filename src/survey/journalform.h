@@ -4,12 +4,11 @@
 #include "panelmodel.h"
 #include "screenform.h"
 
+class JournalPages;
 class PanelGrid;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QStackedWidget;
-class TextPane;
 class VerdictBadge;
 
 /// The form of the journal: the surveys above, below them what the chosen ones say.
@@ -34,23 +33,15 @@ private:
     void connectEdits();
     QStringList chosen() const;
     void paintChoice();
-    void paintDetails();
     void paintNote();
     void btJSON_Click();
     void writeJson(const QString &path);
     void tellUnwritten(const QString &path, const QString &reason);
-    QList<PanelGrid *> grids() const { return {m_list, m_findings, m_comparison}; }
 
     JournalScreen &m_journal;
     PanelModel m_surveyRows;
-    PanelModel m_findingRows;
-    PanelModel m_outputRows;
     PanelGrid *m_list;
-    PanelGrid *m_findings;
-    PanelGrid *m_comparison;
-    TextPane *m_exchange;
-    QString m_exchangeText;
-    QStackedWidget *m_body;
+    JournalPages *m_pages;
     VerdictBadge *m_badge;
     QLineEdit *m_search;
     QLabel *m_lbNota;

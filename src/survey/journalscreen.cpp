@@ -11,10 +11,16 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// A long journal is not searched for every letter of a word.
+static constexpr auto kTypingPause = 200ms;
 
 JournalScreen::JournalScreen(Session &session, QObject *parent) : Screen(session, u"Journal"_s, {}, parent)
 {
     connect(&session, &Session::languageChanged, this, &JournalScreen::rebuild);
+    m_timerBusca.setInterval(kTypingPause);
+    connect(&m_timerBusca, &QTimer::timeout, this, &JournalScreen::TimerBusca_Timer);
     connect(&m_printing, &QFutureWatcherBase::finished, this, &JournalScreen::tellPrinted);
 }
 
@@ -43,6 +49,12 @@ void JournalScreen::takeList(const QList<JournalSurvey> &surveys)
 void JournalScreen::txtBusca_Change(const QString &text)
 {
     m_search = text.trimmed();
+    m_timerBusca.start();
+}
+
+void JournalScreen::TimerBusca_Timer()
+{
+    m_timerBusca.stop();
     load();
 }
 

@@ -6,6 +6,7 @@
 
 #include <QFutureWatcher>
 #include <QMap>
+#include <QTimer>
 
 /// The journal of surveys: finds them, shows one or two side by side, keeps the technician's notes, hands them out.
 class JournalScreen : public Screen
@@ -21,6 +22,7 @@ public:
     /// Surveys may have come while it was hidden; and what was typed is kept before it hides.
     void setShown(bool shown) override;
 
+    /// What is looked for; the list follows when the typing pauses.
     void txtBusca_Change(const QString &text);
     /// Shows one of the listed surveys, or two side by side. More are chosen, but not shown.
     void choose(const QStringList &ids);
@@ -58,6 +60,9 @@ public:
         Q_UNUSED(partial)
     }
 
+public slots:
+    void TimerBusca_Timer();
+
 signals:
     /// Another survey is shown, or its note is another in the store.
     void noteLoaded();
@@ -79,6 +84,7 @@ private:
     QMap<QString, Field> state() const;
 
     QString m_search;
+    QTimer m_timerBusca;
     QList<JournalSurvey> m_surveys;
     QStringList m_chosen;
     QString m_compared;            ///< the survey that the next one is held against

@@ -162,10 +162,12 @@ private slots:
         auto *const search = bench.control<QLineEdit>(u"txtBusca"_s);
         bench.select(0);
         search->setText(u"pp1v8"_s);
+        bench.screen().TimerBusca_Timer();
         QCOMPARE(bench.listed(), QStringList{u"1"_s});
         QVERIFY(bench.screen().chosen().isEmpty()); // what is not listed is not shown either
         QVERIFY(!bench.control<QPushButton>(u"btExcluir"_s)->isEnabled());
         search->clear();
+        bench.screen().TimerBusca_Timer();
         QCOMPARE(bench.listed().size(), 3);
     }
 
