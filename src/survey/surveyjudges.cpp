@@ -41,10 +41,11 @@ QList<Judgement> judgeRails(const RailScreenTraits &traits, const SurveyInput &i
                             .language = input.language,
                             .order = traits.loadOrder};
     QList<Judgement> judgements;
-    for (const RailKind &kind : traits.kinds)
+    for (const RailKind &kind : traits.kinds) {
         for (const EvaluatedRail &rail : evaluatedRails(traits, reading, input.reference.rails.value(kind.kind)))
             if (isTold(rail))
                 judgements.append(judgementOf(rail, traits.name));
+    }
     return judgements;
 }
 
@@ -65,11 +66,12 @@ QList<Judgement> withFacts(const std::function<Panel(Language)> &read, Language 
     for (qsizetype place = 0; place < panel.facts.size(); ++place) {
         const Row &fact = panel.facts.at(place);
         const QString reading = fact.cell(u"Leitura");
-        if (fact.verdict == Verdict::None && !reading.isEmpty() && reading != kNoReadingMark)
-            judgements.append({.what = fact.cell(u"Dado"),
-                               .reading = reading,
-                               .screen = panel.screen,
-                               .output = panel.screen + u'/' + kept.at(place).cell(u"Dado")});
+        if (fact.verdict != Verdict::None || reading.isEmpty() || reading == kNoReadingMark)
+            continue;
+        judgements.append({.what = fact.cell(u"Dado"),
+                           .reading = reading,
+                           .screen = panel.screen,
+                           .output = panel.screen + u'/' + kept.value(place).cell(u"Dado")});
     }
     return judgements;
 }
