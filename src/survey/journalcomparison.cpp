@@ -25,8 +25,8 @@ State stateOf(const std::optional<Finding> &finding)
 
 /// By the state before and the state after.
 constexpr std::array<std::array<SurveyChange, 3>, 3> kChanges = {{
-    {SurveyChange::Same, SurveyChange::NewFault, SurveyChange::NoReading},
-    {SurveyChange::Repaired, SurveyChange::FaultStays, SurveyChange::FaultUnread},
+    {SurveyChange::Same, SurveyChange::NewFault, SurveyChange::Unjudged},
+    {SurveyChange::Repaired, SurveyChange::FaultStays, SurveyChange::FaultUnjudged},
     {SurveyChange::PassesNow, SurveyChange::FaultFound, SurveyChange::Same},
 }};
 
@@ -41,8 +41,8 @@ constexpr std::array kRows = {
     ChangeRow{"fault, unknown before"_L1, u"Falha, antes desconhecida"},
     ChangeRow{"still faulty"_L1, u"Falha permanece"},
     ChangeRow{"repaired"_L1, u"Reparado"},
-    ChangeRow{"fault, not measured since"_L1, u"Falha, não medida depois"},
-    ChangeRow{"not measured any more"_L1, u"Não medido depois"},
+    ChangeRow{"fault, not judged since"_L1, u"Falha, não julgada depois"},
+    ChangeRow{"not judged any more"_L1, u"Não julgado depois"},
     ChangeRow{"passes now"_L1, u"Aprovado agora"},
     ChangeRow{"verdict changed"_L1, u"Veredito mudou"},
     ChangeRow{"same"_L1, u"Igual"},

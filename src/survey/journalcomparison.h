@@ -9,10 +9,10 @@ enum class SurveyChange
     FaultFound, ///< what it was before is not known
     FaultStays,
     Repaired,
-    FaultUnread, ///< it was faulty, and nobody has measured it since
-    NoReading,   ///< it was good, and nobody has measured it since
-    PassesNow,   ///< what it was before is not known
-    Changed,     ///< good both times, but near its limit one time
+    FaultUnjudged, ///< it was faulty, and nothing has judged it since
+    Unjudged,      ///< it was good, and nothing has judged it since
+    PassesNow,     ///< what it was before is not known
+    Changed,       ///< good both times, but near its limit one time
     Same
 };
 
@@ -27,8 +27,8 @@ struct ComparedOutput
     friend bool operator==(const ComparedOutput &, const ComparedOutput &) = default;
 };
 
-/// Every output of two surveys, side by side; what changed comes first. What was not measured is neither faulty nor
-/// good.
+/// Every output of two surveys, side by side; what changed comes first. What was not measured or not judged is
+/// neither faulty nor good.
 QList<ComparedOutput> compareSurveys(const QList<Finding> &before, const QList<Finding> &after);
 
 /// The word for a change in exported files.

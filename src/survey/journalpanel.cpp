@@ -42,7 +42,7 @@ Verdict verdictOf(SurveyChange change, Verdict after)
 {
     if (change <= SurveyChange::FaultStays)
         return Verdict::Fail;
-    return change == SurveyChange::FaultUnread || change == SurveyChange::NoReading ? Verdict::Incomplete : after;
+    return change == SurveyChange::FaultUnjudged || change == SurveyChange::Unjudged ? Verdict::Incomplete : after;
 }
 
 Row rowOf(const ComparedOutput &output, Language language)

@@ -118,10 +118,10 @@ private slots:
         QTest::newRow("still there") << u"fail"_s << u"fail"_s << u"still faulty"_s;
         QTest::newRow("repaired") << u"fail"_s << u"pass"_s << u"repaired"_s;
         QTest::newRow("repaired, barely") << u"fail"_s << u"marginal"_s << u"repaired"_s;
-        QTest::newRow("silence is no repair") << u"fail"_s << u"not measured"_s << u"fault, not measured since"_s;
-        QTest::newRow("nor is a shorter survey") << u"fail"_s << QString() << u"fault, not measured since"_s;
-        QTest::newRow("nor a lost reference") << u"fail"_s << u"not judged"_s << u"fault, not measured since"_s;
-        QTest::newRow("silence is no fault") << u"pass"_s << u"not measured"_s << u"not measured any more"_s;
+        QTest::newRow("silence is no repair") << u"fail"_s << u"not measured"_s << u"fault, not judged since"_s;
+        QTest::newRow("nor is a shorter survey") << u"fail"_s << QString() << u"fault, not judged since"_s;
+        QTest::newRow("nor a lost reference") << u"fail"_s << u"not judged"_s << u"fault, not judged since"_s;
+        QTest::newRow("silence is no fault") << u"pass"_s << u"not measured"_s << u"not judged any more"_s;
         QTest::newRow("speaks again") << u"not measured"_s << u"pass"_s << u"passes now"_s;
         QTest::newRow("nearer the limit") << u"pass"_s << u"marginal"_s << u"verdict changed"_s;
         QTest::newRow("good") << u"pass"_s << u"pass"_s << u"same"_s;
