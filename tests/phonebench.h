@@ -65,14 +65,18 @@ public:
         questions.append(question.text);
         answered(answer);
     }
-    void input(const Question &, const QString &, std::function<void(const QString &)> answered) override
+    void input(const Question &question, const QString &proposal,
+               std::function<void(const QString &)> answered) override
     {
-        answered({});
+        inputs.append(question.title + u'|' + question.text + u'|' + proposal);
+        answered(typed);
     }
 
     QStringList keys;
     QStringList arguments; ///< of the last
     QStringList questions;
+    QStringList inputs; ///< title, text and proposal
+    QString typed;      ///< null: cancelled
     Answer answer = Answer::Yes;
 };
 
@@ -87,7 +91,8 @@ struct PhoneBench
             qFatal("no store for the test");
         store = std::make_unique<StoreQueue>(path, StoreQueue::Waiting::Blocking);
         const auto deviceFor = [](const PortAddress &) -> Result<QString> { return u"phone"_s; };
-        session = std::make_unique<Session>(SessionParts{port, *store, boxes, deviceFor});
+        const auto open = [this](const QString &address) { handedOut.append(address); };
+        session = std::make_unique<Session>(SessionParts{port, *store, boxes, deviceFor, open});
         session->load();
     }
 
@@ -108,6 +113,7 @@ struct PhoneBench
     QTemporaryDir folder;
     PhonePort port;
     ScriptedBoxes boxes;
+    QStringList handedOut; ///< addresses and documents that were opened
     std::unique_ptr<StoreQueue> store;
     std::unique_ptr<Session> session;
 };

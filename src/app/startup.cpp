@@ -5,11 +5,10 @@
 #include "connectionbar.h"
 #include "home.h"
 #include "settings.h"
+#include "systemopener.h"
 
-#include <QDesktopServices>
 #include <QMessageBox>
 #include <QTimer>
-#include <QUrl>
 
 #include <cstdio>
 
@@ -31,7 +30,7 @@ Startup::Startup(const StartOptions &options)
                  .deviceFor = [this](const PortAddress &address) { return m_resolver.deviceFor(address); },
                  .open =
                      [this](const QString &address) {
-                         if (!QDesktopServices::openUrl(QUrl(address)))
+                         if (!openWithSystem(address))
                              m_boxes.message({{u"DOCUMENT_NOT_OPENED"_s, {address}}});
                      }}),
       m_window({m_session, m_log, portsOfThisMachine}),

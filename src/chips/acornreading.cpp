@@ -65,7 +65,7 @@ Verdict overall(const Panel &panel)
 
 Panel readAcorn(const ChipInput &input)
 {
-    Panel panel = readChip({"Acorn"_L1, "ACORN"_L1, kRows, kMarks}, input);
+    Panel panel = readChip({"Acorn"_L1, "ACORN"_L1, kRows, kMarks, {}, ReportPage::Acorn}, input);
     panel.title = u"Acorn - Tavimo Prelt"_s;
     panel.fields[u"lbStatus2"_s].text = caption(u"ANALISE COMPLETA", input.language);
     if (!input.reply.isEmpty())

@@ -39,7 +39,7 @@ constexpr std::array kRows = {
     shownOnly("chestnut ildo3 :"_L1, "iLDO_A(3)"_L1, kTouchSupply),
     judgedRail("chestnut vneg :"_L1, "VNEG_V"_L1, kNegative, "-5.700"_L1, "Porc4"_L1, 1, {2, "-5.7 V"_L1}),
     shownOnly("chestnut ineg :"_L1, "VNEG_A"_L1, kNegative),
-    shownOnly("chestnut vin :"_L1, "VIN_V"_L1, "PP_VDD_MAIN"_L1, ChipUnit::Volt, {6}),
+    shownOnly("chestnut vin :"_L1, "VIN_V"_L1, "PP_VDD_MAIN"_L1, ChipUnit::Volt, {6, {}, RowMark::Yes}),
     shownOnly("chestnut ground :"_L1, "gndV"_L1, "GND"_L1, ChipUnit::Volt),
     judgedRail("chestnut vboost :"_L1, "BOOST_V"_L1, kBoost, "6.000"_L1, "Porc5"_L1, 0, {1, "6.0 V"_L1}),
 };
@@ -55,7 +55,7 @@ constexpr std::array kDesignators = {
 
 Panel readChestnut(const ChipInput &input)
 {
-    Panel panel = readChip({"Chestnut"_L1, "CHESTNUT"_L1, kRows, kMarks, kDesignators}, input);
+    Panel panel = readChip({"Chestnut"_L1, "CHESTNUT"_L1, kRows, kMarks, kDesignators, ReportPage::Chestnut}, input);
     panel.title = u"Chestnut - Tavimo Prelt"_s;
     panel.fields[u"lbVarInfo"_s].text = caption(u"VAR", input.language).remove(u"  "_s);
     return panel;

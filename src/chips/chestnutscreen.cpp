@@ -21,7 +21,8 @@ ChestnutScreen::ChestnutScreen(Session &session, QObject *parent)
                   .fits = hasLcdPanel,
                   .refusal = {{}, {u"IP X!"_s, u"NOT FOR X!"_s}},
                   .otherScreen = u"Acorn"_s,
-                  .log = ReplyLog::Folded},
+                  .log = ReplyLog::Folded,
+                  .reporting = Reporting::Offered},
                  parent)
 {
     m_timerTouch.setInterval(500ms);

@@ -3,6 +3,7 @@
 #include "icons.h"
 #include "linelist.h"
 #include "marklabel.h"
+#include "reportbuttons.h"
 #include "theme.h"
 #include "valuefield.h"
 
@@ -30,9 +31,11 @@ ChipForm::ChipForm(std::unique_ptr<ChipScreen> screen, const ChipLook &look, con
     if (m_chip.hasLog())
         body->addWidget(logFrame());
     body->setSizes({kDrawingShare, kLogShare});
+    if (m_chip.isReported())
+        m_report = new ReportButtons(m_chip);
     QPushButton *read = readButton(u"btExecutaLeitura"_s);
     connect(read, &QPushButton::clicked, &m_chip, &ChipScreen::btExecutaLeitura_Click);
-    layOut({.note = look.note, .buttons = {read}, .choices = choices(buttons), .body = body});
+    layOut({.note = look.note, .buttons = {read}, .choices = choices(buttons), .body = body, .report = m_report});
 }
 
 QList<QWidget *> ChipForm::core(const ChipLook &look)
@@ -107,6 +110,8 @@ void ChipForm::Traducao_Form()
         m_lbTemp->setText(text(u"TEMPERATURA"));
         m_temp->setAccessibleName(text(u"TEMPERATURA"));
     }
+    if (m_report)
+        m_report->Traducao(language());
     if (!m_reply)
         return;
     m_lbReply->setText(text(u"Leitura do dispositivo conectado:"));

@@ -6,6 +6,7 @@
 
 class LineList;
 class QPushButton;
+class ReportButtons;
 
 /// What a chip's form is made of, besides what they all have.
 struct ChipLook
@@ -49,6 +50,7 @@ private:
     QLabel *m_temp = nullptr;
     QLabel *m_lbReply = nullptr;
     QLabel *m_lbRecorded = nullptr;
+    ReportButtons *m_report = nullptr;
     LineList *m_reply = nullptr;
     LineList *m_recorded = nullptr;
 };

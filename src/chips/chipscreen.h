@@ -18,6 +18,13 @@ enum class ReplyLog
     Open
 };
 
+/// Whether the reading can be handed to a customer.
+enum class Reporting
+{
+    None,
+    Offered
+};
+
 /// A chip screen: how it asks the phone, how it reads the reply, and which models it refuses.
 struct ChipScreenTraits
 {
@@ -30,6 +37,7 @@ struct ChipScreenTraits
     Notice refusal = {};
     QString otherScreen = {}; ///< the one that a refused model needs
     ReplyLog log = ReplyLog::None;
+    Reporting reporting = Reporting::None;
 };
 
 /// What the screens of the charger and display chips share: one command, one panel, a refusal by model.
@@ -48,6 +56,8 @@ public:
 
     void take(const Delivery &delivery) override;
     bool hasLog() const { return m_traits.log != ReplyLog::None; }
+    /// The report service has a page for the chip.
+    bool isReported() const { return m_traits.reporting == Reporting::Offered; }
     bool refusesModels() const { return m_traits.fits != nullptr; }
     /// Why the model is refused, in the user's language; empty when it is not.
     QString refusal() const;

@@ -29,7 +29,8 @@ AcornScreen::AcornScreen(Session &session, QObject *parent)
                   .opening = Opening::Waits,
                   .fits = hasOledPanel,
                   .refusal = {u"SOMENTE_X"_s},
-                  .otherScreen = u"Chestnut"_s},
+                  .otherScreen = u"Chestnut"_s,
+                  .reporting = Reporting::Offered},
                  parent)
 {
 }

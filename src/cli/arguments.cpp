@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <iostream>
 
@@ -73,6 +75,12 @@ std::string emptyComplaint(const std::string &text)
     return text.find_first_not_of(' ') == std::string::npos ? "it is empty" : "";
 }
 
+bool isOfReport(const CLI::Option *option)
+{
+    static const std::array kNames = {"report-url", "pdf", "name", "date"};
+    return std::ranges::any_of(kNames, [option](const char *name) { return option->check_lname(name); });
+}
+
 void addScreenOption(CLI::App &app, const ScreenOption &option, QMap<QString, QString> &given)
 {
     const auto take = [&given, name = QString::fromLatin1(option.name)](const std::string &text) {
@@ -108,6 +116,38 @@ void addScreenOptions(CLI::App &app, const ScreenCommand &screen, ScreenOption::
     }
 }
 
+void addReport(CLI::App &app, const ScreenCommand &screen, ReportWish &wish)
+{
+    const auto take = [](std::optional<QString> &target) {
+        return [&target](const std::string &text) { target = QString::fromStdString(text); };
+    };
+    app.add_flag("--report-url", wish.address, "print the address of the report instead");
+    addText(app, "--pdf", wish.pdf, "write the report to this file")->check(emptyComplaint);
+    app.add_option_function<std::string>("--name", take(wish.name), "name on the report (else as the store says)");
+    app.add_option_function<std::string>("--date", take(wish.date), "date of the report (else today)");
+    if (screen.reported == Reported::No)
+        for (CLI::Option *option : app.get_options(isOfReport))
+            option->group(""); // taken only to say which screens have it
+}
+
+std::string reportedScreens()
+{
+    std::string names;
+    for (const ScreenCommand *screen : screenCommands())
+        if (screen->reported == Reported::Yes)
+            names += (names.empty() ? "" : ", ") + std::string(screen->command.data());
+    return names;
+}
+
+void checkReport(const ScreenCommand &screen, const ReportWish &wish)
+{
+    if (wish.isWanted() && screen.reported == Reported::No)
+        throw CLI::ValidationError(std::string(screen.command.data()) +
+                                   " has no report; these have: " + reportedScreens());
+    if (!wish.isWanted() && (wish.name || wish.date))
+        throw CLI::ValidationError("--name and --date go with --report-url or --pdf");
+}
+
 /// `run` and `judge` have one subcommand per screen.
 void addScreens(CLI::App &parent, Arguments &arguments, ScreenOption::Use use,
                 const std::function<void(CLI::App &)> &addOwn)
@@ -117,8 +157,12 @@ void addScreens(CLI::App &parent, Arguments &arguments, ScreenOption::Use use,
         CLI::App *app = parent.add_subcommand(screen->command.data(), screen->help.data());
         addCommon(*app, arguments.common);
         addScreenOptions(*app, *screen, use, arguments.screen);
+        addReport(*app, *screen, arguments.screen.report);
         addOwn(*app);
-        app->final_callback([&arguments, name = QString(screen->command)] { arguments.screen.screen = name; });
+        app->final_callback([&arguments, screen] {
+            checkReport(*screen, arguments.screen.report);
+            arguments.screen.screen = screen->command;
+        });
     }
 }
 

@@ -18,8 +18,9 @@ static constexpr std::array kICOptions = {ScreenOption{
 static constexpr std::array kScreens = {
     ScreenCommand{"tristar"_L1, "port controller and its rails"_L1, makeScreen<TristarScreen>},
     ScreenCommand{"tigris"_L1, "charger: USB power and battery"_L1, makeScreen<TigrisScreen>},
-    ScreenCommand{"acorn"_L1, "display supply of the IP X"_L1, makeScreen<AcornScreen>},
-    ScreenCommand{"chestnut"_L1, "display supply of the other models"_L1, makeScreen<ChestnutScreen>},
+    ScreenCommand{"acorn"_L1, "display supply of the IP X"_L1, makeScreen<AcornScreen>, {}, Reported::Yes},
+    ScreenCommand{
+        "chestnut"_L1, "display supply of the other models"_L1, makeScreen<ChestnutScreen>, {}, Reported::Yes},
     ScreenCommand{"battery"_L1, "health and charge of the battery"_L1, makeScreen<BateriaScreen>},
     ScreenCommand{"ic"_L1, "whether the port controller answers"_L1, makeScreen<ICScreen>, kICOptions},
 };

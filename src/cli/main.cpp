@@ -109,7 +109,7 @@ static int unlessUnwritten(int code)
 /// A document needs the faces of the system, but no display.
 static std::unique_ptr<QCoreApplication> application(int &argc, char **argv, const Arguments &arguments)
 {
-    if (arguments.survey.pdfFile.isEmpty())
+    if (arguments.survey.pdfFile.isEmpty() && arguments.screen.report.pdf.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);

@@ -92,9 +92,10 @@ static constexpr ScreenOption kAllBucks{.name = "--all",
 static constexpr std::array kBuckTestOptions = {kBuck, kAllBucks};
 
 static constexpr std::array kScreens = {
-    ScreenCommand{"buckldo"_L1, "bucks and LDOs beside their references"_L1, makeScreen<BuckLdoScreen>,
-                  kBuckLdoOptions},
-    ScreenCommand{"vcore"_L1, "core rails beside their references"_L1, makeScreen<VCoresScreen>, kVCoreOptions},
+    ScreenCommand{"buckldo"_L1, "bucks and LDOs beside their references"_L1, makeScreen<BuckLdoScreen>, kBuckLdoOptions,
+                  Reported::Yes},
+    ScreenCommand{"vcore"_L1, "core rails beside their references"_L1, makeScreen<VCoresScreen>, kVCoreOptions,
+                  Reported::Yes},
     ScreenCommand{"pmu"_L1, "outputs of the PMU by a tolerance"_L1, makeScreen<PMUScreen>, kPmuOptions},
     ScreenCommand{"bucktest"_L1, "the phone's own check of its bucks"_L1, makeScreen<BuckTesteScreen>,
                   kBuckTestOptions},

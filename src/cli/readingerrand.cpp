@@ -1,7 +1,10 @@
 #include "readingerrand.h"
 
 #include "json.h"
+#include "reportexport.h"
+#include "reportpdf.h"
 #include "screentable.h"
+#include "settingkeys.h"
 #include "terminal.h"
 
 using namespace Qt::StringLiterals;
@@ -40,7 +43,48 @@ void ReadingErrand::printReading()
         return refuseWithoutModel();
     if (!m_screen->hasAnswer()) // why was told when it was refused
         return finish(ExitCode::Link);
+    const ReportWish &wish = m_screenOptions.report;
+    if (wish.isWanted() && !panel.report) // a screen that does not fit the model
+        return fail({{u"PRIMEIRO_LEITURA"_s}}, ExitCode::Incomplete);
+    if (!wish.pdf.isEmpty() && !writePdf(panel))
+        return;
+    if (wish.address)
+        return printAddress(panel);
     const ReadingContext context{session().model(), language(), session().txtComandos(), messages()};
     printOut(options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted()));
     finish(exitCodeFor(panel.verdict));
+}
+
+QString ReadingErrand::stored(const QString &setting)
+{
+    QString value;
+    session().withStore<QString>( // blocks: it is there when this returns
+        Store::Access::Read, [&setting](Store &store) { return namedSetting(store, setting); }, this,
+        [&value](const QString &text) { value = text; });
+    return value;
+}
+
+ReportHead ReadingErrand::reportHead()
+{
+    const ReportWish &wish = m_screenOptions.report;
+    return {wish.date.value_or(reportDate()), language(), session().model(),
+            wish.name ? *wish.name : stored(u"name"_s)};
+}
+
+void ReadingErrand::printAddress(const Panel &panel)
+{
+    const QString address = reportAddress(stored(u"report-host"_s), *panel.report, reportHead());
+    if (isFinished()) // the store failed
+        return;
+    printOut(address + u'\n');
+    finish(exitCodeFor(panel.verdict));
+}
+
+bool ReadingErrand::writePdf(const Panel &panel)
+{
+    const Result<Done> made =
+        writeReport(reportDocument(panel, reportHead(), stored(u"logo"_s)), m_screenOptions.report.pdf);
+    if (!made)
+        fail(made.trouble(), ExitCode::Usage);
+    return !isFinished();
 }

@@ -41,6 +41,13 @@ struct ScreenOption
     std::string (*complaint)(const std::string &text) = nullptr;
 };
 
+/// Whether a screen's reading can be reported.
+enum class Reported
+{
+    No,
+    Yes
+};
+
 /// A screen that the command line can run. Its options are given in the order of the list.
 struct ScreenCommand
 {
@@ -48,6 +55,7 @@ struct ScreenCommand
     QLatin1StringView help;
     std::unique_ptr<Screen> (*make)(Session &session);
     std::span<const ScreenOption> options = {};
+    Reported reported = Reported::No;
 };
 
 template <typename T>

@@ -4,6 +4,7 @@
 #include "queries.h"
 #include "settings.h"
 
+#include <QFileInfo>
 #include <QUrl>
 
 #include <algorithm>
@@ -25,6 +26,7 @@ enum class Form
     Address, ///< of the web, or empty
     Line,    ///< one line of text, or empty
     Percent, ///< 1 to 99, or empty
+    File,    ///< one that is there, or empty
     Model    ///< one of the nine
 };
 
@@ -65,6 +67,7 @@ constexpr Key kKeys[] = {
     {"help-video"_L1, Form::Address},
     {"probe-address"_L1, Form::Address},
     {"report-host"_L1, Form::Address},
+    {"logo"_L1, Form::File},
 };
 
 const Key *keyNamed(const QString &name)
@@ -113,6 +116,8 @@ bool fits(const Accepted &accepted, const QString &value)
         return isLine(value);
     case Form::Percent:
         return isPercent(value);
+    case Form::File:
+        return value.isEmpty() || QFileInfo(value).isFile();
     case Form::Model:
         return modelNames().contains(value);
     }
@@ -130,6 +135,8 @@ QString described(const Accepted &accepted)
         return u"… (≤ 120)"_s;
     case Form::Percent:
         return u"1 … 99"_s;
+    case Form::File:
+        return u"…/logo.png"_s;
     case Form::Model:
         return modelNames().join(", "_L1);
     }
@@ -198,12 +205,19 @@ Result<QString> namedSetting(const Store &store, const QString &name)
     return key ? read(store, *key) : Result<QString>(unknown(name));
 }
 
-Result<Done> setNamedSetting(Store &store, const QString &name, const QString &value)
+std::optional<Trouble> settingTrouble(const QString &name, const QString &value)
 {
     const Key *key = keyNamed(name);
     if (!key)
         return unknown(name);
     if (!fits(key->accepted, value))
         return Trouble{{u"SETTING_INVALID"_s, {name, value, described(key->accepted)}}};
-    return write(store, *key, value);
+    return {};
+}
+
+Result<Done> setNamedSetting(Store &store, const QString &name, const QString &value)
+{
+    if (const std::optional<Trouble> wrong = settingTrouble(name, value))
+        return *wrong;
+    return write(store, *keyNamed(name), value);
 }

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 /// Of less health than so many per cent a battery counts as worn.
 inline constexpr QLatin1StringView kBatteryWorn{"battery-worn"};
 inline constexpr int kBatteryWornPreset = 80;
@@ -21,6 +23,9 @@ Result<QList<NamedSetting>> namedSettings(const Store &store);
 
 /// The value of one setting. Trouble: SETTING_UNKNOWN with the names that there are.
 Result<QString> namedSetting(const Store &store, const QString &name);
+
+/// What is wrong with a value, nothing when it is accepted. Trouble: as of `setNamedSetting`.
+std::optional<Trouble> settingTrouble(const QString &name, const QString &value);
 
 /// Writes a setting after checking its value. Trouble: SETTING_UNKNOWN, or SETTING_INVALID with what is accepted.
 Result<Done> setNamedSetting(Store &store, const QString &name, const QString &value);

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "chipvalue.h"
+#include "reportrows.h"
 
 #include <algorithm>
 
@@ -153,5 +154,7 @@ Panel readChip(const ChipTable &table, const ChipInput &input)
         tell(panel, row, value);
     }
     neverGoodWhenCut(panel, input.cut);
+    if (table.page)
+        panel.report = ReportSheet{*table.page, {}, reportRows(table, panel)};
     return panel;
 }

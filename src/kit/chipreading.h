@@ -53,6 +53,7 @@ struct ReportPlace
 {
     int row = 0;
     QLatin1StringView nominal = {};
+    RowMark plain = RowMark::NotJudged; ///< of a row without a nominal
 };
 
 /// One value that the phone prints of a chip: where it is shown and what it is held against.
@@ -86,6 +87,7 @@ struct ChipTable
     std::span<const ChipRow> rows;
     int marks = 0;
     std::span<const Designator> designators = {};
+    std::optional<ReportPage> page = {}; ///< of the report service, where it has one for the chip
 };
 
 /// The reply of a chip and what it is read with.

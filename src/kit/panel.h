@@ -1,6 +1,7 @@
 #pragma once
 
 #include "notice.h"
+#include "reportaddress.h"
 #include "verdict.h"
 
 #include <QList>
@@ -93,7 +94,8 @@ struct Panel
     QList<Notice> messages; ///< what the reading wants to tell; without a key: title and text of a box of its own
     QList<Judgement> judgements;
     Verdict verdict = Verdict::None;
-    QString focus; ///< the control that gets the focus
+    QString focus;                          ///< the control that gets the focus
+    std::optional<ReportSheet> report = {}; ///< nothing while there is nothing to report
 
     friend bool operator==(const Panel &, const Panel &) = default;
 };

@@ -26,6 +26,7 @@ const RailScreenTraits &buckLdoTraits()
         .kinds = kKinds,
         .readButton = "Botao4"_L1,
         .restingControls = kResting,
+        .report = "2"_L1,
     };
     return kTraits;
 }

@@ -2,6 +2,7 @@
 
 #include "icons.h"
 #include "panelgrid.h"
+#include "reportbuttons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -32,10 +33,11 @@ RailGridForm::RailGridForm(std::unique_ptr<RailGridScreen> screen, QWidget *pare
 void RailGridForm::layOutGrid(const QList<QWidget *> &buttons, const QList<QWidget *> &choices)
 {
     m_dbGrid1 = named(new PanelGrid(m_rows), u"DBGrid1"_s);
+    m_report = new ReportButtons(m_rails);
     QList<QWidget *> row{orders(), decimals()};
     row += choices;
     row += {nullptr, recordings()};
-    layOut({.note = u"lbVar"_s, .buttons = buttons, .choices = row, .body = m_dbGrid1});
+    layOut({.note = u"lbVar"_s, .buttons = buttons, .choices = row, .body = m_dbGrid1, .report = m_report});
     painter().setRows(&m_rows);
     connectGrid();
     connectRecordings();
@@ -103,6 +105,7 @@ void RailGridForm::Traducao_Form()
     m_lbClassificacao->setText(text(u"Classificação"));
     m_lbGravacao->setText(text(u"Gravação"));
     m_dbGrid1->setLanguage(language());
+    m_report->Traducao(language());
     translateRecordings();
 }
 

@@ -7,6 +7,7 @@
 #include <array>
 
 class PanelGrid;
+class ReportButtons;
 class QRadioButton;
 class QToolButton;
 
@@ -41,4 +42,5 @@ private:
     std::array<QToolButton *, 3> m_btExcluir;
     QLabel *m_lbClassificacao;
     QLabel *m_lbGravacao;
+    ReportButtons *m_report;
 };

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "models.h"
+#include "reportrows.h"
 
 #include <algorithm>
 
@@ -70,6 +71,8 @@ RailReading readRails(const RailScreenTraits &traits, const RailInput &input, co
     });
     RailReading reading = railReading(traits, input, rails);
     addRails(reading.panel, shown, input.cut);
+    if (!traits.report.isEmpty() && !input.reply.isEmpty())
+        reading.panel.report = ReportSheet{ReportPage::Index, traits.report, reportRows(reading.panel)};
     reading.shown = rowsOf(shown);
     return reading;
 }

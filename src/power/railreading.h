@@ -61,6 +61,7 @@ struct RailScreenTraits
     QLatin1StringView readButton;
     std::span<const QLatin1StringView> restingControls; ///< what is disabled while a reading runs, besides the decimals
     decltype(&readRails) read = readRails;
+    QLatin1StringView report = {}; ///< the type under which the report service knows the screen; empty: it does not
 };
 
 /// The note on outputs that show no value in diagnostics mode; which ones depends on the generation.

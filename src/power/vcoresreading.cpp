@@ -25,6 +25,7 @@ const RailScreenTraits &vcoresTraits()
         .kinds = kKinds,
         .readButton = "btExecutaLeitura"_L1,
         .restingControls = kResting,
+        .report = "1"_L1,
     };
     return kTraits;
 }

@@ -1,11 +1,12 @@
 #include "pdffile.h"
 
 #include "busdrawing.h"
+#include "wholefile.h"
 
+#include <QBuffer>
 #include <QFontDatabase>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -54,18 +55,12 @@ void partChapters(const QTextDocument &document)
     }
 }
 
-Trouble notWritten(const QString &path, const QString &reason)
-{
-    return {{u"PDF_NOT_WRITTEN"_s, {path, reason}}};
-}
-
 } // namespace
 
 Result<Done> writePdf(const QString &markdown, const QString &title, const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return notWritten(path, file.errorString());
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
     BusDrawing maps; // outlives the document
     QTextDocument document;
     QFont face = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
@@ -76,11 +71,11 @@ Result<Done> writePdf(const QString &markdown, const QString &title, const QStri
     partChapters(document);
     maps.addTo(document);
     {
-        QPdfWriter writer(&file);
+        QPdfWriter writer(&bytes);
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setTitle(title);
         writer.setCreator(u"Tavimo Prelt"_s);
         document.print(&writer);
     }
-    return file.commit() ? Result<Done>(Done{}) : notWritten(path, file.errorString());
+    return writeWhole(bytes.data(), path);
 }

@@ -22,6 +22,8 @@ struct ReportFinding
     std::optional<double> deviation = {}; ///< per cent, for the bar
     std::optional<double> tolerance = {}; ///< per cent to either side
     FindingVerdict verdict = FindingVerdict::NotJudged;
+
+    friend bool operator==(const ReportFinding &, const ReportFinding &) = default;
 };
 
 /// What a customer is handed: who read which phone when, and what was found. What is empty is left out.

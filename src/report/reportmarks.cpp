@@ -87,7 +87,8 @@ void paintBar(QPainter &painter, const QRectF &area, const QTextFormat &format)
     const double half = area.width() / 2 - 2 * unit;
     const double end = zero.x() + placeOf(deviation, tolerance) * half;
     const QRectF inner = area.adjusted(0, 3 * unit, 0, -3 * unit);
-    const QRectF bar(std::min(zero.x(), end), inner.top(), std::abs(end - zero.x()), inner.height());
+    const double width = std::max(std::abs(end - zero.x()), deviation == 0 ? 0 : 1.5 * unit);
+    const QRectF bar(deviation < 0 ? zero.x() - width : zero.x(), inner.top(), width, inner.height());
     painter.fillRect(bar, findingInk(verdictOf(format)));
     if (std::abs(placeOf(deviation, tolerance)) >= 1)
         paintNotch(painter, end, deviation < 0 ? 3 * unit : -3 * unit, bar);

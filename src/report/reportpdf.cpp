@@ -4,12 +4,13 @@
 #include "paging.h"
 #include "reportmarks.h"
 #include "reporttext.h"
+#include "wholefile.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QTextDocument>
 
 #include <deque>
@@ -27,11 +28,6 @@ constexpr double kFooterTextPoints = 7.5;
 constexpr double kHairlinePoints = 0.5;
 constexpr QColor kHairline{0xc3, 0xca, 0xd2};
 constexpr QColor kDim{0x5a, 0x67, 0x73};
-
-Trouble notWritten(const QString &path, const QString &reason)
-{
-    return {{u"PDF_NOT_WRITTEN"_s, {path, reason}}};
-}
 
 void setUp(QPdfWriter &writer, const QString &title)
 {
@@ -107,9 +103,11 @@ void drawPages(QPdfWriter &writer, const Paging &paging, Language language)
     }
 }
 
-void write(QSaveFile &file, const ReportDocument &report)
+QByteArray pdfOf(const ReportDocument &report)
 {
-    QPdfWriter writer(&file);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&bytes);
     setUp(writer, onPaper(report.title));
     std::deque<Part> parts; // they stay where they are
     Paging paging(QSizeF(writer.width(), writer.height() - kFooterPoints * kPoint));
@@ -124,15 +122,12 @@ void write(QSaveFile &file, const ReportDocument &report)
         paging.place(parts.back().document);
     }
     drawPages(writer, paging, report.language);
+    return bytes.data();
 }
 
 } // namespace
 
 Result<Done> writeReport(const ReportDocument &report, const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return notWritten(path, file.errorString());
-    write(file, report);
-    return file.commit() ? Result<Done>(Done{}) : notWritten(path, file.errorString());
+    return writeWhole(pdfOf(report), path);
 }

@@ -39,10 +39,10 @@ public:
     /// text are its arguments.
     virtual void message(const Trouble &trouble) = 0;
     virtual void ask(const Question &question, std::function<void(Answer)> answered) = 0;
-    /// Asks for a line of text, with a proposal; an empty answer is none.
+    /// Asks for a line of text, with a proposal; a null answer was cancelled.
     virtual void input(const Question &question, const QString &proposal,
                        std::function<void(const QString &)> answered) = 0;
 };
 
-/// How the program opens an address or a document.
+/// How the program opens an address or the path of a document: exactly the text that it is given.
 using Opener = std::function<void(const QString &address)>;

@@ -8,6 +8,7 @@
 #include "modulerail.h"
 #include "moduletable.h"
 #include "reconnector.h"
+#include "reportdialog.h"
 #include "screentabs.h"
 #include "sobre.h"
 #include "termsbanner.h"
@@ -385,6 +386,10 @@ void Inicial::buildMenu()
     QMenu *themes = m_menu->addMenu(lineIcon(u"theme"), text(u"Tema"));
     for (const auto &[choice, key] : kThemes)
         themes->addAction(text(key), this, [this, chosen = choice] { retheme(chosen); });
+    m_menu
+        ->addAction(lineIcon(u"pdf"), text(u"Relatórios"), this,
+                    [this] { (new ReportDialog(m_session, this))->open(); })
+        ->setObjectName(u"btRelatorios"_s);
     m_menu->addSeparator();
     m_menu->addAction(lineIcon(u"about"), text(u"Sobre"), this, [this] { Botoes_Click(12); })
         ->setObjectName(u"Botoes(12)"_s);

@@ -6,7 +6,7 @@
 #include "replycodes.h"
 #include "settings.h"
 
-#include <QUrl>
+#include <QDir>
 
 #include <utility>
 
@@ -135,16 +135,21 @@ void Session::offerHelpVideo()
         withStore<QString>(
             Store::Access::Read, [](Store &store) { return setting(store, kHelpVideo); }, this,
             [this](const QString &address) {
-                if (!address.isEmpty() && m_parts.open)
-                    m_parts.open(address);
+                if (!address.isEmpty())
+                    openAddress(address);
             });
     });
 }
 
 void Session::openDocument(const QString &path)
 {
+    openAddress(QDir::toNativeSeparators(path));
+}
+
+void Session::openAddress(const QString &address)
+{
     if (m_parts.open)
-        m_parts.open(QUrl::fromLocalFile(path).toString());
+        m_parts.open(address);
 }
 
 void Session::openPort(const PortAddress &address)

@@ -122,6 +122,8 @@ public:
     void refuse(const Notice &why) { emit refused(why); }
     /// Opens a document with the system's viewer.
     void openDocument(const QString &path);
+    /// Opens an address, exactly as it is written.
+    void openAddress(const QString &address);
 
     /// Runs work on the store; a failure goes to `storeFailed`, and `done` then is not called.
     template <typename T>

@@ -110,7 +110,7 @@ void WindowBoxes::input(const Question &question, const QString &proposal,
         box->setTextValue(proposal);
         box->setCancelButtonText(caption(u"Cancelar", m_language()));
         QObject::connect(box, &QInputDialog::finished, box, [box, answered](int result) {
-            answered(result == QDialog::Accepted ? box->textValue() : QString());
+            answered(result == QDialog::Accepted ? u""_s + box->textValue() : QString());
         });
         return box;
     });

@@ -217,6 +217,7 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      Information,
      {u"O PDF não pôde ser gravado: %1\n%2", u"The PDF could not be written: %1\n%2",
       u"No se pudo guardar el PDF: %1\n%2"}},
+    {u"PDF_SAVED", Information, {u"Relatório salvo: %1", u"Report saved: %1", u"Reporte guardado: %1"}},
     // %1 the file, %2 the reason as the system words it
     {u"TEXT_NOT_SAVED",
      Information,

@@ -44,7 +44,7 @@ static bool isNumber(const QString &text)
 
 static bool isFormula(const QString &text)
 {
-    static constexpr auto kStarts = QStringView(u"=+-@\t\r\n");
+    static constexpr auto kStarts = QStringView(u"=+-@\uff1d\uff0b\uff0d\uff20\t\r\n");
     return !text.isEmpty() && kStarts.contains(text.front()) && !isNumber(text);
 }
 

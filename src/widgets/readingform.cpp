@@ -59,7 +59,7 @@ void ReadingForm::layOut(const Parts &parts)
     layout->addLayout(choiceRow(parts.choices));
     layout->addWidget(m_hint = named(new QLabel, u"lbDica"_s));
     layout->addWidget(parts.body, 1);
-    layout->addLayout(noteRow(parts.note));
+    layout->addLayout(noteRow(parts));
     connect(&screen().session(), &Session::statusChanged, this, &ReadingForm::paintHint);
 }
 
@@ -78,9 +78,9 @@ QHBoxLayout *ReadingForm::headRow(const QList<QWidget *> &buttons)
     return row;
 }
 
-QHBoxLayout *ReadingForm::noteRow(const QString &name)
+QHBoxLayout *ReadingForm::noteRow(const Parts &parts)
 {
-    auto *note = named(new QLabel, name);
+    auto *note = named(new QLabel, parts.note);
     note->setWordWrap(true);
     note->setFont(textFont(TextSize::Small));
     m_lbBarra = new QLabel;
@@ -93,6 +93,8 @@ QHBoxLayout *ReadingForm::noteRow(const QString &name)
     auto *row = controlRow();
     row->addWidget(note, 1);
     row->addWidget(frame);
+    if (parts.report)
+        row->addWidget(parts.report);
     return row;
 }
 

@@ -27,6 +27,7 @@ protected:
         QList<QWidget *> buttons;
         QList<QWidget *> choices; ///< from left to right; a null pointer takes the free room
         QWidget *body = nullptr;
+        QWidget *report = nullptr; ///< at the right of the note
     };
 
     void layOut(const Parts &parts);
@@ -40,7 +41,7 @@ protected:
 
 private:
     QHBoxLayout *headRow(const QList<QWidget *> &buttons);
-    QHBoxLayout *noteRow(const QString &name);
+    QHBoxLayout *noteRow(const Parts &parts);
     QStringView hintKey() const;
     void paintHint();
 

@@ -8,9 +8,11 @@
 #include "screenform.h"
 #include "seeds.h"
 #include "serialport.h"
+#include "settings.h"
 #include "theme.h"
 #include "windowboxes.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -293,6 +295,29 @@ private slots:
         emit bench.session.statusChanged();
         QTest::keyClicks(field, u"3"_s);
         QCOMPARE(field->text(), u"/dev/ttyUSB3"_s);
+    }
+
+    void reportsAreSetUp()
+    {
+        Bench bench;
+        const auto stored = [&bench](const QString &name) {
+            QString value;
+            bench.session.withStore<QString>(
+                Store::Access::Read, [name](Store &store) { return setting(store, name); }, &bench.window,
+                [&value](const QString &found) { value = found; });
+            return value;
+        };
+        bench.control<QAction>(u"btRelatorios"_s)->trigger();
+        auto *host = bench.control<QLineEdit>(u"txtServico"_s);
+        QVERIFY(host);
+        host->setText(u"javascript:alert(1)"_s);
+        QTest::keyClick(host, Qt::Key_Return);
+        QVERIFY(host->isVisible()); // what is not accepted is told, and nothing is kept
+        QVERIFY(stored(u"report-host"_s).isEmpty());
+        host->setText(u"https://r.example/"_s);
+        QTest::keyClick(host, Qt::Key_Return);
+        QTRY_VERIFY(!bench.control<QLineEdit>(u"txtServico"_s));
+        QCOMPARE(stored(u"report-host"_s), u"https://r.example/"_s);
     }
 
     void tabsCloseByKey()

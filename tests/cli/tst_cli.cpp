@@ -82,6 +82,25 @@ private slots:
         QTEST(judged.json().value(u"verdict"_s).toString(), "verdict");
     }
 
+    void reportIsPrintedOrWritten()
+    {
+        const QString judge = u"judge acorn --model \"IP X\" --reply - --lang en "_s;
+        const QByteArray reply = "\r\nacorn vc : 1100.0000 mV\r\n[0:0] :-) ";
+        const Outcome address = atHome(judge + u"--report-url --name \"José & True\" --date \"1 Nov\""_s, reply);
+        QVERIFY(address.out.startsWith("relatorio/acorn.php?M1=PP1V1_RACER&L1=1.100%20V&R1=1.1%20V&P1=0%20%&I1=1&M2="));
+        QVERIFY(address.out.endsWith("&DATA=1%20Nov&IDIOMA=2&MODELO=IP%20X&EMP=José%20&%201\n"));
+
+        const QString pdf = m_home.filePath(u"report.pdf"_s);
+        const Outcome written = atHome(judge + "--json --pdf "_L1 + pdf, reply);
+        QCOMPARE(written.json().value(u"screen"_s).toString(), u"Acorn"_s);
+        QFile file(pdf);
+        QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll().trimmed().endsWith("%%EOF"));
+
+        const Outcome none = atHome(u"judge tristar --model \"IP 7\" --reply - --report-url"_s, reply);
+        QCOMPARE(none.code, 2);
+        QVERIFY(none.errors.contains("acorn"));
+    }
+
     void savedAndLiveAgreeToTheLetter_data()
     {
         columns<QString, QString>({"model", "faults"});

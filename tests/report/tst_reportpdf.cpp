@@ -104,10 +104,9 @@ private slots:
         QCOMPARE(paging.pages(), 2);
         paging.place(tall);
         QVERIFY(paging.pages() > 10);
-        for (int page = 0; page < paging.pages(); ++page)
-            QVERIFY(std::ranges::any_of(paging.slices(), [&](const Slice &slice) {
-                return slice.part == &columns && slice.page == page && slice.top == 0;
-            }));
+        const auto heads = std::ranges::count_if(
+            paging.slices(), [&](const Slice &slice) { return slice.part == &columns && slice.top == 0; });
+        QCOMPARE(heads, paging.pages());
         for (const Slice &slice : paging.slices())
             QVERIFY(slice.top + slice.height <= height + 0.01);
     }
