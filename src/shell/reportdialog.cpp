@@ -94,11 +94,12 @@ void ReportDialog::chooseLogo(QLineEdit *field)
 
 void ReportDialog::load()
 {
-    for (std::size_t i = 0; i < kFields; ++i)
+    for (std::size_t i = 0; i < kFields; ++i) {
         m_session.withStore<QString>(
             Store::Access::Read,
             [name = kSettings[i].setting](Store &store) { return namedSetting(store, name.toString()); }, this,
             [field = m_fields[i]](const QString &value) { field->setText(value); });
+    }
 }
 
 bool ReportDialog::isAccepted(std::size_t place)
@@ -116,10 +117,11 @@ void ReportDialog::keep()
     for (std::size_t i = 0; i < kFields; ++i)
         if (!isAccepted(i))
             return m_fields[i]->setFocus();
-    for (std::size_t i = 0; i < kFields; ++i)
+    for (std::size_t i = 0; i < kFields; ++i) {
         m_session.keep([name = kSettings[i].setting.toString(), value = value(i)](Store &store) {
             return setNamedSetting(store, name, value);
         });
+    }
     accept();
 }
 
