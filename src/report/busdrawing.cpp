@@ -107,7 +107,8 @@ void drawBus(QPainter &painter, double top, const MappedBus &bus)
               kUnknown.toString());
     for (qsizetype i = 0; i < bus.devices.size(); ++i) {
         const double x = kLeft + static_cast<double>(i % kBoxesInARow) * (kBoxWidth + kGap);
-        const double y = line + kGap / 2 + static_cast<double>(i / kBoxesInARow) * (kBoxHeight + kGap);
+        const qsizetype boxRow = i / kBoxesInARow;
+        const double y = line + kGap / 2 + static_cast<double>(boxRow) * (kBoxHeight + kGap);
         drawDevice(painter, {x, y, kBoxWidth, kBoxHeight}, bus.devices.at(i));
     }
 }
