@@ -146,7 +146,7 @@ void SurveyErrand::printSurvey()
 
 Result<Done> SurveyErrand::writePdf()
 {
-    const SurveySigning signing{m_survey.surveyor(), m_survey.txtNota()};
+    const SurveySigning signing{m_survey.surveyor(), m_survey.txtNota(), m_survey.logo()};
     return writeReport(reportOf(m_survey.run(), m_survey.findings(), signing, language()), m_surveyOptions.pdfFile);
 }
 

@@ -3,6 +3,7 @@
 #include "journalexport.h"
 #include "journalpanel.h"
 #include "reportpdf.h"
+#include "settings.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -188,7 +189,18 @@ void JournalScreen::print(const QString &path)
     if (!isOne() || m_printing.isRunning())
         return;
     m_path = path;
-    m_printing.setFuture(QtConcurrent::run(writeReport, reportOf(m_entries[0], session().language()), path));
+    withStore<QString>(
+        Store::Access::Read, [](Store &store) { return setting(store, u"logo"_s); },
+        [this, report = reportOf(m_entries[0], session().language())](const QString &logo) {
+            if (!m_printing.isRunning())
+                writeWith(logo, report);
+        });
+}
+
+void JournalScreen::writeWith(const QString &logo, ReportDocument report)
+{
+    report.logoFile = logo;
+    m_printing.setFuture(QtConcurrent::run(writeReport, report, m_path));
     rebuild();
 }
 

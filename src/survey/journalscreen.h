@@ -2,6 +2,7 @@
 
 #include "journal.h"
 #include "journalcomparison.h"
+#include "reportdocument.h"
 #include "screen.h"
 
 #include <QFutureWatcher>
@@ -68,6 +69,7 @@ signals:
     void noteLoaded();
 
 private:
+    void writeWith(const QString &logo, ReportDocument report);
     void load();
     void takeList(const QList<JournalSurvey> &surveys);
     void loadEntries();

@@ -101,8 +101,8 @@ void Survey::btPDF_Click()
 
 void Survey::savePdf(const QString &path)
 {
-    const ReportDocument report =
-        reportOf(m_survey.run(), m_survey.findings(), {m_survey.surveyor(), m_survey.txtNota()}, language());
+    const ReportDocument report = reportOf(m_survey.run(), m_survey.findings(),
+                                           {m_survey.surveyor(), m_survey.txtNota(), m_survey.logo()}, language());
     m_btPdf->setEnabled(false);
     m_writing.setFuture(QtConcurrent::run([report, path] { return writeReport(report, path); }));
 }

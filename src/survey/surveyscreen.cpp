@@ -36,6 +36,9 @@ void SurveyScreen::open()
             if (m_name.isEmpty())
                 m_name = stored;
         });
+    withStore<QString>(
+        Store::Access::Read, [](Store &store) { return setting(store, u"logo"_s); },
+        [this](const QString &logo) { m_logo = logo; });
     rebuild();
 }
 

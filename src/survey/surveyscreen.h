@@ -50,6 +50,8 @@ public:
     /// Who signs the survey, in place of the name in the store.
     void chooseName(const QString &name) { m_name = name; }
     const QString &surveyor() const { return m_name; }
+    /// The picture at the head of the report; empty: none.
+    const QString &logo() const { return m_logo; }
     /// A row of the table was activated: the screen that shows it is opened.
     void DBGrid1_Click(qsizetype row);
 
@@ -101,6 +103,7 @@ private:
     Journaling m_journaling = Journaling::Kept;
     QString m_note;
     QString m_name;
+    QString m_logo;
     bool m_isRunning = false;
     bool m_isAsked = false; ///< the first step that waits is in flight
     bool m_isCancelled = false;
