@@ -24,7 +24,7 @@ QJsonValue orNull(std::optional<double> number)
 QJsonArray findingsArray(const QList<Finding> &findings)
 {
     QJsonArray array;
-    for (const Finding &finding : findings)
+    for (const Finding &finding : findings) {
         array.append(QJsonObject{{u"what"_s, finding.what},
                                  {u"screens"_s, QJsonArray::fromStringList(finding.screens)},
                                  {u"reading"_s, finding.reading},
@@ -33,16 +33,18 @@ QJsonArray findingsArray(const QList<Finding> &findings)
                                  {u"deviation"_s, orNull(finding.deviation)},
                                  {u"verdict"_s, word(finding.verdict)},
                                  {u"line"_s, finding.line}});
+    }
     return array;
 }
 
 QJsonArray stepsArray(const SurveyRun &run)
 {
     QJsonArray array;
-    for (const SurveyAnswer &answer : run.answers)
+    for (const SurveyAnswer &answer : run.answers) {
         array.append(QJsonObject{{u"command"_s, answer.step.command},
                                  {u"cut"_s, answer.cut},
                                  {u"milliseconds"_s, static_cast<qint64>(answer.took.count())}});
+    }
     return array;
 }
 
