@@ -17,7 +17,7 @@ Result<Done> FileLog::open()
 
 Trouble FileLog::trouble() const
 {
-    return {{u"LOG_NOT_WRITTEN"_s, {m_file.fileName(), m_file.errorString()}}};
+    return {{u"FILE_NOT_WRITTEN"_s, {m_file.fileName(), m_file.errorString()}}};
 }
 
 void FileLog::watch(Port &port)

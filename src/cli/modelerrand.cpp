@@ -1,5 +1,9 @@
 #include "modelerrand.h"
 
+#include "reportpdf.h"
+#include "settingkeys.h"
+#include "terminal.h"
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -40,4 +44,24 @@ void ModelErrand::beginOnce()
 void ModelErrand::refuseWithoutModel()
 {
     fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
+}
+
+QString ModelErrand::stored(const QString &setting)
+{
+    QString value;
+    session().withStore<QString>( // blocks: it is there when this returns
+        Store::Access::Read, [&setting](Store &store) { return namedSetting(store, setting); }, this,
+        [&value](const QString &text) { value = text; });
+    return value;
+}
+
+void ModelErrand::writePdf(ReportDocument report, const QString &path)
+{
+    report.logoFile = stored(u"logo"_s);
+    if (isFinished()) // the store failed
+        return;
+    if (const Result<Done> written = writeReport(report, path); !written)
+        return fail(written.trouble(), ExitCode::Usage);
+    if (const std::optional<Notice> missing = logoTrouble(report.logoFile))
+        printError(oneLine({*missing}, language()));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "errand.h"
+#include "reportdocument.h"
 
 /// A command about a board whose model is known: the connected phone's, or that of a saved reply.
 class ModelErrand : public Errand
@@ -18,6 +19,10 @@ protected:
     /// The model is known, or was given with the reply. Called once.
     virtual void begin() = 0;
     void refuseWithoutModel();
+    /// What the store holds for a setting; empty when the store failed, which ended the errand.
+    QString stored(const QString &setting);
+    /// Writes a report with the shop's logo. When it cannot be written, the errand has failed.
+    void writePdf(ReportDocument report, const QString &path);
 
 private:
     void beginOnce();

@@ -2,9 +2,7 @@
 
 #include "json.h"
 #include "reportexport.h"
-#include "reportpdf.h"
 #include "screentable.h"
-#include "settingkeys.h"
 #include "terminal.h"
 
 using namespace Qt::StringLiterals;
@@ -46,22 +44,15 @@ void ReadingErrand::printReading()
     const ReportWish &wish = m_screenOptions.report;
     if (wish.isWanted() && !panel.report) // a screen that does not fit the model
         return fail({{u"PRIMEIRO_LEITURA"_s}}, ExitCode::Incomplete);
-    if (!wish.pdf.isEmpty() && !writePdf(panel))
+    if (!wish.pdf.isEmpty())
+        writePdf(reportDocument(panel, reportHead()), wish.pdf);
+    if (isFinished())
         return;
     if (wish.address)
         return printAddress(panel);
     const ReadingContext context{session().model(), language(), session().txtComandos(), messages()};
     printOut(options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted()));
     finish(exitCodeFor(panel.verdict));
-}
-
-QString ReadingErrand::stored(const QString &setting)
-{
-    QString value;
-    session().withStore<QString>( // blocks: it is there when this returns
-        Store::Access::Read, [&setting](Store &store) { return namedSetting(store, setting); }, this,
-        [&value](const QString &text) { value = text; });
-    return value;
 }
 
 ReportHead ReadingErrand::reportHead()
@@ -78,13 +69,4 @@ void ReadingErrand::printAddress(const Panel &panel)
         return;
     printOut(address + u'\n');
     finish(exitCodeFor(panel.verdict));
-}
-
-bool ReadingErrand::writePdf(const Panel &panel)
-{
-    const Result<Done> made =
-        writeReport(reportDocument(panel, reportHead(), stored(u"logo"_s)), m_screenOptions.report.pdf);
-    if (!made)
-        fail(made.trouble(), ExitCode::Usage);
-    return !isFinished();
 }

@@ -18,10 +18,8 @@ protected:
 private:
     void makeScreen();
     void printReading();
-    QString stored(const QString &setting);
     ReportHead reportHead();
     void printAddress(const Panel &panel);
-    bool writePdf(const Panel &panel);
 
     ScreenOptions m_screenOptions;
     std::unique_ptr<Screen> m_screen;

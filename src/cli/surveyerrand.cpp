@@ -1,9 +1,7 @@
 #include "surveyerrand.h"
 
 #include "json.h"
-#include "reportpdf.h"
 #include "surveypanel.h"
-#include "surveyreport.h"
 #include "terminal.h"
 
 #include <array>
@@ -141,15 +139,8 @@ void SurveyErrand::printSurvey()
         return finish(ExitCode::Link);
     printOut(options().json ? jsonText() : readableText());
     if (!m_surveyOptions.pdfFile.isEmpty())
-        if (const Result<Done> written = writePdf(); !written)
-            return fail(written.trouble(), ExitCode::Usage);
+        writePdf(m_survey.report(), m_surveyOptions.pdfFile);
     finish(exitCode());
-}
-
-Result<Done> SurveyErrand::writePdf()
-{
-    const SurveySigning signing{m_survey.surveyor(), m_survey.txtNota(), m_survey.logo()};
-    return writeReport(reportOf(m_survey.run(), m_survey.findings(), signing, language()), m_surveyOptions.pdfFile);
 }
 
 QString SurveyErrand::jsonText()

@@ -29,7 +29,6 @@ protected:
 private:
     void printProgress();
     void printSurvey();
-    Result<Done> writePdf();
     QString jsonText();
     QString readableText();
     ExitCode exitCode() const;

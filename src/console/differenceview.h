@@ -27,7 +27,7 @@ public slots:
     void previous();
 
 signals:
-    void exportFailed(const QString &path, const QString &reason);
+    void exportFailed(const Trouble &trouble);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -9,15 +9,15 @@
 #include "fmhelp.h"
 #include "historypane.h"
 #include "readingform.h"
+#include "savedialog.h"
 #include "textpane.h"
 #include "theme.h"
+#include "wholefile.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSaveFile>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -112,9 +112,7 @@ void Master::connectDifferences()
     connect(m_head, &ComparisonHead::previousWanted, m_differences, &DifferenceView::previous);
     connect(&m_master, &MasterScreen::differenceChanged, this,
             [this] { m_differences->showDifference(m_master.difference()); });
-    connect(m_differences, &DifferenceView::exportFailed, this, [this](const QString &path, const QString &reason) {
-        screen().session().boxes().message({{u"TEXT_NOT_SAVED"_s, {path, reason}}});
-    });
+    connect(m_differences, &DifferenceView::exportFailed, this, &Master::tellUnwritten);
 }
 
 void Master::connectKeys()
@@ -196,18 +194,12 @@ QString Master::textOf(const TextPane *pane) const
 void Master::saveText()
 {
     const QString reply = textOf(m_findBar->pane());
-    auto *dialog = new QFileDialog(this, text(u"Salvar texto"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"txt"_s);
-    dialog->selectFile(u"%1.txt"_s.arg(m_master.boundCommand().isEmpty() ? u"console"_s : m_master.boundCommand()));
-    connect(dialog, &QFileDialog::fileSelected, this, [this, reply](const QString &path) {
-        QSaveFile file(path);
-        const QByteArray bytes = reply.toLatin1();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-            screen().session().boxes().message({{u"TEXT_NOT_SAVED"_s, {path, file.errorString()}}});
-    });
-    dialog->open();
+    const auto write = [this, reply](const QString &path) {
+        if (const Result<Done> written = writeWhole(reply.toLatin1(), path); !written)
+            tellUnwritten(written.trouble());
+    };
+    const QString command = m_master.boundCommand();
+    askForFile(this, {text(u"Salvar texto"), command.isEmpty() ? u"console"_s : command, FileKind::Text}, write);
 }
 
 void Master::paintPanel()

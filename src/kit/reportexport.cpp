@@ -1,14 +1,9 @@
 #include "reportexport.h"
 
 #include "catalogue.h"
-#include "reportpdf.h"
 #include "settings.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-#include <QStandardPaths>
-#include <QtConcurrent>
 
 using namespace Qt::StringLiterals;
 
@@ -17,12 +12,11 @@ QString reportDate()
     return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat);
 }
 
-ReportDocument reportDocument(const Panel &panel, const ReportHead &head, const QString &logo)
+ReportDocument reportDocument(const Panel &panel, const ReportHead &head)
 {
     const QString screen = panel.title.section(u" - Tavimo Prelt"_s, 0, 0);
     ReportDocument document{.title = caption(u"Relatório", head.language) + " - "_L1 + screen,
                             .shop = head.name,
-                            .logoFile = logo,
                             .model = head.model,
                             .date = head.date,
                             .language = head.language};
@@ -32,15 +26,11 @@ ReportDocument reportDocument(const Panel &panel, const ReportHead &head, const 
     return document;
 }
 
-QString ReportExport::documentsFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/Tavimo Prelt"_L1;
-}
-
 ReportExport::ReportExport(Screen &screen, QString folder, QObject *parent)
-    : QObject(parent), m_screen(screen), m_folder(std::move(folder))
+    : QObject(parent), m_screen(screen), m_folder(std::move(folder)), m_maker(screen.session())
 {
-    connect(&m_watcher, &QFutureWatcherBase::finished, this, &ReportExport::end);
+    connect(&m_maker, &DocumentMaker::busyChanged, this, &ReportExport::busyChanged);
+    connect(&m_maker, &DocumentMaker::written, this, &ReportExport::written);
 }
 
 bool ReportExport::hasSomething()
@@ -92,7 +82,8 @@ void ReportExport::sendOrMake(const Order &order)
         Store::Access::Read, [](Store &store) { return setting(store, u"report-host"_s); }, this,
         [this, &session, order](const QString &host) {
             if (host.isEmpty())
-                make(order, newPath(), Afterwards::Open);
+                m_maker.make(reportDocument(order.panel, order.head),
+                             DocumentMaker::freePath(m_folder, suggestedName()), DocumentMaker::Afterwards::Open);
             else
                 session.openAddress(reportAddress(host, *order.panel.report, order.head));
         });
@@ -103,52 +94,14 @@ void ReportExport::savePdf(const QString &path)
     if (isBusy() || !hasSomething())
         return;
     const auto named = [this, path, order = order()](const QString &stored) {
-        make(under(stored, order), path, Afterwards::Nothing);
+        m_maker.make(reportDocument(order.panel, under(stored, order).head), path, DocumentMaker::Afterwards::Tell);
     };
     m_screen.session().withStore<QString>(
         Store::Access::Read, [](Store &store) { return technicianName(store); }, this, named);
-}
-
-void ReportExport::make(const Order &order, const QString &path, Afterwards afterwards)
-{
-    if (isBusy())
-        return;
-    m_path = path;
-    m_afterwards = afterwards;
-    m_screen.session().withStore<QString>(
-        Store::Access::Read, [](Store &store) { return setting(store, u"logo"_s); }, this,
-        [this, order](const QString &logo) {
-            QDir().mkpath(QFileInfo(m_path).absolutePath()); // what fails here is told by the writing
-            m_watcher.setFuture(QtConcurrent::run(writeReport, reportDocument(order.panel, order.head, logo), m_path));
-            emit busyChanged();
-        });
-}
-
-void ReportExport::end()
-{
-    emit busyChanged();
-    const Result<Done> made = m_watcher.result();
-    if (!made)
-        return m_screen.session().boxes().message(made.trouble());
-    emit written(m_path);
-    if (m_afterwards == Afterwards::Open)
-        m_screen.session().openDocument(m_path);
-    else
-        m_screen.session().refuse({u"PDF_SAVED"_s, {m_path}});
 }
 
 QString ReportExport::suggestedName() const
 {
     const QString now = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
     return QStringList{m_screen.name(), m_screen.session().model(), now}.join(u' ').simplified();
-}
-
-/// A document that was handed out is never overwritten.
-QString ReportExport::newPath() const
-{
-    const QDir folder(m_folder);
-    QString path = folder.filePath(suggestedName() + ".pdf"_L1);
-    for (int copy = 2; QFileInfo::exists(path); ++copy)
-        path = folder.filePath(u"%1 (%2).pdf"_s.arg(suggestedName()).arg(copy));
-    return path;
 }

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "result.h"
+#include "documentmaker.h"
 #include "screen.h"
-
-#include <QFutureWatcher>
 
 /// Hands the last reading of a screen to the report service, by an address that is opened. While no service is set up
 /// the program makes the document itself, in a worker.
@@ -13,7 +11,7 @@ class ReportExport : public QObject
 
 public:
     /// Documents are put into `folder`, which is made when it is needed.
-    explicit ReportExport(Screen &screen, QString folder = documentsFolder(), QObject *parent = nullptr);
+    explicit ReportExport(Screen &screen, QString folder = DocumentMaker::folder(), QObject *parent = nullptr);
 
     /// Asks for the name first; cancelling that stops the request.
     void btExportar_Click();
@@ -21,11 +19,9 @@ public:
     void savePdf(const QString &path);
     /// A name for it, without folder and ending.
     QString suggestedName() const;
-    bool isBusy() const { return m_watcher.isRunning(); }
+    bool isBusy() const { return m_maker.isBusy(); }
     /// There is a reading to report; if not, the user is told.
     bool hasSomething();
-
-    static QString documentsFolder();
 
 signals:
     void busyChanged();
@@ -33,12 +29,6 @@ signals:
     void written(const QString &path);
 
 private:
-    enum class Afterwards
-    {
-        Nothing,
-        Open
-    };
-
     /// What is reported, as it was when it was asked for.
     struct Order
     {
@@ -50,19 +40,14 @@ private:
     static Order under(const QString &name, Order order);
     void askName(const Order &order);
     void sendOrMake(const Order &order);
-    void make(const Order &order, const QString &path, Afterwards afterwards);
-    void end();
-    QString newPath() const;
 
     Screen &m_screen;
     QString m_folder;
-    QString m_path; ///< of the document in work
-    Afterwards m_afterwards = Afterwards::Nothing;
-    QFutureWatcher<Result<Done>> m_watcher;
+    DocumentMaker m_maker;
 };
 
 /// Today as the system writes it.
 QString reportDate();
 
 /// The report of a screen as a document: the same rows as in the address, with what only paper shows.
-ReportDocument reportDocument(const Panel &panel, const ReportHead &head, const QString &logo);
+ReportDocument reportDocument(const Panel &panel, const ReportHead &head);

@@ -1,26 +1,17 @@
 #include "reportrows.h"
 
+#include "judgedfinding.h"
+
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kLastFifth = 0.8;
-
 const Judgement *judgementOf(const Panel &panel, const QString &what)
 {
     const auto found = std::ranges::find(panel.judgements, what, &Judgement::what);
     return found == panel.judgements.end() ? nullptr : &*found;
-}
-
-/// The wider limit: the drawing has one for both sides.
-std::optional<double> toleranceOf(const std::optional<Rule> &rule)
-{
-    if (!rule)
-        return {};
-    return std::max(std::abs(rule->lowest.value_or(0)), std::abs(rule->highest.value_or(0)));
 }
 
 /// What only paper shows, beside the texts.
@@ -29,8 +20,8 @@ void judge(ReportFinding &finding, const Judgement &judgement)
     finding.source = judgement.source;
     finding.line = judgement.line;
     finding.deviation = judgement.deviation;
-    finding.tolerance = toleranceOf(judgement.rule);
-    finding.verdict = findingVerdict(judgement.verdict, judgement.deviation, judgement.rule);
+    finding.tolerance = drawnTolerance(judgement.rule);
+    finding.verdict = findingVerdict(judgement);
 }
 
 RowMark markOf(Verdict verdict)
@@ -84,17 +75,6 @@ ReportRow chipRow(const ChipTable &table, const Panel &panel, const ChipRow &row
 }
 
 } // namespace
-
-FindingVerdict findingVerdict(Verdict verdict, std::optional<double> deviation, const std::optional<Rule> &rule)
-{
-    static constexpr FindingVerdict kVerdicts[] = {FindingVerdict::NotJudged, FindingVerdict::Pass,
-                                                   FindingVerdict::NotMeasured, FindingVerdict::Fail};
-    const bool isNearLow = rule && deviation && rule->lowest < 0.0 && *deviation <= *rule->lowest * kLastFifth;
-    const bool isNearHigh = rule && deviation && rule->highest > 0.0 && *deviation >= *rule->highest * kLastFifth;
-    if (verdict == Verdict::Pass && (isNearLow || isNearHigh))
-        return FindingVerdict::Marginal;
-    return kVerdicts[static_cast<std::size_t>(verdict)];
-}
 
 QList<ReportRow> reportRows(const Panel &panel)
 {

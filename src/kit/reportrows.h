@@ -4,9 +4,6 @@
 
 // The rows of a report out of what a screen shows.
 
-/// What a verdict is on paper: what passed within the last fifth of the tolerance is told apart.
-FindingVerdict findingVerdict(Verdict verdict, std::optional<double> deviation, const std::optional<Rule> &rule);
-
 /// The grid of a panel in its order.
 QList<ReportRow> reportRows(const Panel &panel);
 

@@ -21,9 +21,9 @@ qsizetype costOf(const Exchange &exchange)
     return exchange.bytes.size() + kChunkCost;
 }
 
-Trouble notWrittenTo(const QString &path, const QString &reason)
+Trouble notSaved(const QSaveFile &file)
 {
-    return {{u"LOG_NOT_WRITTEN"_s, {path, reason}}};
+    return {{u"FILE_NOT_WRITTEN"_s, {file.fileName(), file.errorString()}}};
 }
 
 /// Copies a file of the log; one that had to give way is noted as missing.
@@ -120,7 +120,7 @@ void ExchangeLog::flush()
     }
     m_timer.start(kRetryEvery);
     if (!std::exchange(m_told, true))
-        emit notWritten(notWrittenTo(m_file.path(), m_file.error()));
+        emit notWritten({{u"LOG_NOT_WRITTEN"_s, {m_file.path(), m_file.error()}}});
 }
 
 Result<Done> ExchangeLog::saveTo(const QString &path)
@@ -128,7 +128,7 @@ Result<Done> ExchangeLog::saveTo(const QString &path)
     flush();
     QSaveFile target(path);
     if (!target.open(QIODevice::WriteOnly))
-        return notWrittenTo(path, target.errorString());
+        return notSaved(target);
     const QStringList files = m_file.files();
     bool isWhole = std::ranges::all_of(files, [&](const QString &file) { return copy(file, target); });
     for (qint64 number = m_written; isWhole && number < end();) {
@@ -137,6 +137,6 @@ Result<Done> ExchangeLog::saveTo(const QString &path)
         number = batch.end;
     }
     if (!isWhole || !target.commit())
-        return notWrittenTo(path, target.errorString());
+        return notSaved(target);
     return Done{};
 }

@@ -145,7 +145,7 @@ void PMU::connectControls()
     connect(m_botao[0], &QPushButton::clicked, &pmu, &PMUScreen::Botao1_Click);
     connect(m_botao[1], &QPushButton::clicked, &pmu, &PMUScreen::Botao2_Click);
     connect(m_btExecutaLeitura, &QPushButton::clicked, &pmu, &PMUScreen::btExecutaLeitura_Click);
-    connect(m_export, &TableExport::exportFailed, this, &PMU::tellExportFailed);
+    connect(m_export, &TableExport::exportFailed, this, &PMU::tellUnwritten);
     connect(m_porcTolerancia, &QLineEdit::textChanged, &pmu, &PMUScreen::PorcTolerancia_Change);
     connect(m_porcTolerancia, &QLineEdit::editingFinished, &pmu, &PMUScreen::PorcTolerancia_LostFocus);
 }

@@ -56,8 +56,3 @@ void RailForm::setDecimalsCaption(const QString &text)
 {
     m_lbInfoDecimais->setText(text);
 }
-
-void RailForm::tellExportFailed(const QString &path, const QString &reason)
-{
-    m_rails.session().boxes().message({{u"STORE_FAILED"_s, {path, reason}}});
-}

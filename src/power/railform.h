@@ -22,8 +22,6 @@ protected:
     void setDecimalsCaption(const QString &text);
     /// The buttons of the kinds, side by side.
     QWidget *kinds(const QList<QPushButton *> &buttons, const QString &frame);
-    /// A table could not be written.
-    void tellExportFailed(const QString &path, const QString &reason);
     QString ownHint() const override { return m_rails.faultsElsewhere(); }
 
 private:

@@ -82,7 +82,7 @@ void RailGridForm::connectGrid()
     connect(m_orders[1], &QRadioButton::clicked, &m_rails, &RailGridScreen::OpIc_Click);
     connect(m_orders[2], &QRadioButton::clicked, &m_rails, &RailGridScreen::OpPorc_Click);
     connect(m_dbGrid1, &PanelGrid::activated, &m_rails, &RailGridScreen::DBGrid1_Click);
-    connect(m_dbGrid1, &PanelGrid::exportFailed, this, &RailGridForm::tellExportFailed);
+    connect(m_dbGrid1, &PanelGrid::exportFailed, this, &RailGridForm::tellUnwritten);
 }
 
 void RailGridForm::connectRecordings()

@@ -44,9 +44,7 @@ void Referencias::connectControls()
     connect(m_btDesfazer, &QPushButton::clicked, &m_boards, &ReferenciasScreen::btDesfazer_Click);
     for (QPushButton *button : {m_btTomar, m_btDesfazer})
         connect(button, &QPushButton::clicked, this, &Referencias::keepingAsked);
-    connect(m_dbGrid1, &PanelGrid::exportFailed, this, [this](const QString &path, const QString &reason) {
-        m_boards.session().boxes().message({{u"STORE_FAILED"_s, {path, reason}}});
-    });
+    connect(m_dbGrid1, &PanelGrid::exportFailed, this, &Referencias::tellUnwritten);
 }
 
 void Referencias::Traducao_Form()

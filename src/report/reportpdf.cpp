@@ -131,3 +131,10 @@ Result<Done> writeReport(const ReportDocument &report, const QString &path)
 {
     return writeWhole(pdfOf(report), path);
 }
+
+std::optional<Notice> logoTrouble(const QString &file)
+{
+    if (file.isEmpty() || !logoPicture(file).isNull())
+        return {};
+    return Notice{u"LOGO_NOT_READ"_s, {file}};
+}

@@ -56,11 +56,7 @@ QTextBlockFormat spaced(double above)
 
 void insertLogo(QTextCursor &cursor, const QString &file)
 {
-    QImageReader reader(file);
-    reader.setAutoTransform(true);
-    if (file.isEmpty() || !reader.canRead())
-        return;
-    if (const QImage picture = reader.read(); !picture.isNull()) {
+    if (const QImage picture = logoPicture(file); !picture.isNull()) {
         QTextImageFormat format;
         const QSize size = picture.size().scaled(kLogo, Qt::KeepAspectRatio).boundedTo(picture.size());
         format.setName(u"logo"_s);
@@ -232,6 +228,13 @@ static QString byNumber(char16_t code)
 
 /// The pictures of control characters are in few faces, and the mark of an object in a text would be taken for one of
 /// the drawn ones.
+QImage logoPicture(const QString &file)
+{
+    QImageReader reader(file);
+    reader.setAutoTransform(true);
+    return file.isEmpty() ? QImage() : reader.read();
+}
+
 QString onPaper(const QString &text)
 {
     QString shown = visibleText(text).replace(QChar::ObjectReplacementCharacter, R"(\uFFFC)"_L1);

@@ -2,6 +2,8 @@
 
 #include "reportdocument.h"
 
+#include <QImage>
+
 class QTextDocument;
 
 // The parts of a report, each laid out in an empty document whose marks a `ReportMarks` draws.
@@ -12,6 +14,9 @@ void layOutHead(QTextDocument &document, const ReportDocument &report);
 void layOutColumns(QTextDocument &document, Language language);
 /// One finding as a row under them.
 void layOutFinding(QTextDocument &document, const ReportFinding &finding, Language language);
+
+/// The picture at the head; none when it cannot be read.
+QImage logoPicture(const QString &file);
 
 /// A text as it stands on paper: what cannot be seen is spelled out.
 QString onPaper(const QString &text);

@@ -7,9 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// From here on a deviation is marginal, as a share of the tolerance.
-constexpr double kLastFifth = 0.8;
-
 struct VerdictRow
 {
     FindingVerdict verdict;
@@ -36,16 +33,6 @@ bool isWorse(FindingVerdict one, FindingVerdict other)
     return rowOf(one) < rowOf(other);
 }
 
-bool isMarginal(const Judgement &judgement)
-{
-    if (!judgement.deviation || !judgement.rule)
-        return false;
-    const auto [lowest, highest, atLimit] = *judgement.rule;
-    const bool low = lowest && *lowest < 0 && *judgement.deviation <= *lowest * kLastFifth;
-    const bool high = highest && *highest > 0 && *judgement.deviation >= *highest * kLastFifth;
-    return low || high;
-}
-
 QString keyOf(const Judgement &judgement)
 {
     return judgement.output.isEmpty() ? judgement.screen + u'/' + judgement.what : judgement.output;
@@ -60,21 +47,6 @@ QString withoutMark(QString reading)
 }
 
 } // namespace
-
-FindingVerdict findingVerdict(const Judgement &judgement)
-{
-    switch (judgement.verdict) {
-    case Verdict::Pass:
-        return isMarginal(judgement) ? FindingVerdict::Marginal : FindingVerdict::Pass;
-    case Verdict::Fail:
-        return FindingVerdict::Fail;
-    case Verdict::Incomplete:
-        return FindingVerdict::NotMeasured;
-    case Verdict::None:
-        break;
-    }
-    return FindingVerdict::NotJudged;
-}
 
 void addFinding(QList<Finding> &findings, const Judgement &judgement)
 {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "findingverdict.h"
-#include "panel.h"
+#include "judgedfinding.h"
 
 #include <QStringList>
 
@@ -21,10 +20,6 @@ struct Finding
 
     friend bool operator==(const Finding &, const Finding &) = default;
 };
-
-/// What a screen's judgement comes to. Marginal is what lies within the last fifth of a tolerance around the
-/// reference; a limit that does not lie around it has no last fifth.
-FindingVerdict findingVerdict(const Judgement &judgement);
 
 /// Adds what a screen judged. Of two screens that judge one output differently the worse verdict stands, with what was
 /// read and held against there, and both are named.

@@ -5,17 +5,16 @@
 #include "journalpanel.h"
 #include "panelgrid.h"
 #include "readingform.h"
+#include "savedialog.h"
 #include "theme.h"
 #include "verdictbadge.h"
+#include "wholefile.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSplitter>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -197,27 +196,11 @@ void Journal::paintNote()
 
 void Journal::btJSON_Click()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto *const dialog = new QFileDialog(this, text(u"Exportar JSON"), folder, u"JSON (*.json)"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"json"_s);
-    dialog->selectFile(m_journal.fileName() + u".json"_s);
-    connect(dialog, &QFileDialog::fileSelected, this, &Journal::writeJson);
-    dialog->open();
-}
-
-void Journal::writeJson(const QString &path)
-{
-    QSaveFile file(path);
-    const QByteArray bytes = m_journal.json();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        tellUnwritten(path, file.errorString());
-}
-
-void Journal::tellUnwritten(const QString &path, const QString &reason)
-{
-    m_journal.session().boxes().message({{u"STORE_FAILED"_s, {path, reason}}});
+    const auto write = [this](const QString &path) {
+        if (const Result<Done> written = writeWhole(m_journal.json(), path); !written)
+            tellUnwritten(written.trouble());
+    };
+    askForFile(this, {text(u"Exportar JSON"), m_journal.fileName(), FileKind::Json}, write);
 }
 
 void Journal::Traducao_Form()

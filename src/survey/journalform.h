@@ -35,8 +35,6 @@ private:
     void paintChoice();
     void paintNote();
     void btJSON_Click();
-    void writeJson(const QString &path);
-    void tellUnwritten(const QString &path, const QString &reason);
 
     JournalScreen &m_journal;
     PanelModel m_surveyRows;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panelmodel.h"
+#include "result.h"
 
 #include <QStackedWidget>
 
@@ -23,7 +24,7 @@ public:
     void exportCsv();
 
 signals:
-    void exportFailed(const QString &path, const QString &reason);
+    void exportFailed(const Trouble &trouble);
 
 private:
     const JournalScreen &m_journal;

@@ -2,12 +2,6 @@
 
 #include "journalexport.h"
 #include "journalpanel.h"
-#include "reportpdf.h"
-#include "settings.h"
-
-#include <QDir>
-#include <QStandardPaths>
-#include <QtConcurrent>
 
 #include <algorithm>
 
@@ -17,12 +11,13 @@ using namespace std::chrono_literals;
 /// A long journal is not searched for every letter of a word.
 static constexpr auto kTypingPause = 200ms;
 
-JournalScreen::JournalScreen(Session &session, QObject *parent) : Screen(session, u"Journal"_s, {}, parent)
+JournalScreen::JournalScreen(Session &session, QObject *parent)
+    : Screen(session, u"Journal"_s, {}, parent), m_documents(session)
 {
     connect(&session, &Session::languageChanged, this, &JournalScreen::rebuild);
     m_timerBusca.setInterval(kTypingPause);
     connect(&m_timerBusca, &QTimer::timeout, this, &JournalScreen::TimerBusca_Timer);
-    connect(&m_printing, &QFutureWatcherBase::finished, this, &JournalScreen::tellPrinted);
+    connect(&m_documents, &DocumentMaker::busyChanged, this, &JournalScreen::rebuild);
 }
 
 void JournalScreen::setShown(bool shown)
@@ -179,38 +174,13 @@ void JournalScreen::forget(const QString &id)
 
 void JournalScreen::btImprimir_Click()
 {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/Tavimo Prelt"_L1);
-    folder.mkpath(u"."_s); // the writer tells where it cannot be
-    print(folder.filePath(fileName() + ".pdf"_L1));
+    print(DocumentMaker::freePath(DocumentMaker::folder(), fileName()));
 }
 
 void JournalScreen::print(const QString &path)
 {
-    if (!isOne() || m_printing.isRunning())
-        return;
-    m_path = path;
-    withStore<QString>(
-        Store::Access::Read, [](Store &store) { return setting(store, u"logo"_s); },
-        [this, report = reportOf(m_entries[0], session().language())](const QString &logo) {
-            if (!m_printing.isRunning())
-                writeWith(logo, report);
-        });
-}
-
-void JournalScreen::writeWith(const QString &logo, ReportDocument report)
-{
-    report.logoFile = logo;
-    m_printing.setFuture(QtConcurrent::run(writeReport, report, m_path));
-    rebuild();
-}
-
-void JournalScreen::tellPrinted()
-{
-    if (const Result<Done> written = m_printing.result(); written)
-        session().openDocument(m_path);
-    else
-        session().boxes().message(written.trouble());
-    rebuild();
+    if (isOne())
+        m_documents.make(reportOf(m_entries[0], session().language()), path, DocumentMaker::Afterwards::Open);
 }
 
 QString JournalScreen::exchange() const

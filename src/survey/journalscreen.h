@@ -1,11 +1,10 @@
 #pragma once
 
+#include "documentmaker.h"
 #include "journal.h"
 #include "journalcomparison.h"
-#include "reportdocument.h"
 #include "screen.h"
 
-#include <QFutureWatcher>
 #include <QMap>
 #include <QTimer>
 
@@ -69,7 +68,6 @@ signals:
     void noteLoaded();
 
 private:
-    void writeWith(const QString &logo, ReportDocument report);
     void load();
     void takeList(const QList<JournalSurvey> &surveys);
     void loadEntries();
@@ -77,7 +75,6 @@ private:
     void keepNote(const QString &id, const QString &note);
     void noteWasKept(const QString &id, const QString &note);
     void forget(const QString &id);
-    void tellPrinted();
     bool isOne() const { return m_entries.size() == 1; }
     void rebuild();
     Panel makePanel() const;
@@ -94,6 +91,5 @@ private:
     QList<ComparedOutput> m_outputs;
     QMap<QString, QString> m_typed; ///< notes that are not in the store yet
     bool m_isExchangeShown = false;
-    QString m_path; ///< of the report that is being written
-    QFutureWatcher<Result<Done>> m_printing;
+    DocumentMaker m_documents;
 };

@@ -2,18 +2,14 @@
 
 #include "icons.h"
 #include "panelgrid.h"
-#include "reportpdf.h"
-#include "surveyreport.h"
+#include "savedialog.h"
 #include "surveyscreen.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStandardPaths>
-#include <QtConcurrent>
 
 using namespace Qt::StringLiterals;
 
@@ -79,39 +75,16 @@ void Survey::connectControls()
     connect(&m_survey, &SurveyScreen::noteForgotten, m_nota, &QLineEdit::clear);
     connect(m_grid, &PanelGrid::doubleClicked, &m_survey,
             [this](const QModelIndex &place) { m_survey.DBGrid1_Click(place.row()); });
-    connect(m_grid, &PanelGrid::exportFailed, this, [this](const QString &path, const QString &reason) {
-        m_survey.session().boxes().message({{u"STORE_FAILED"_s, {path, reason}}});
-    });
+    connect(m_grid, &PanelGrid::exportFailed, this, &Survey::tellUnwritten);
     connect(&m_survey, &SurveyScreen::journalFailed, this,
             [this](const Trouble &why) { m_survey.session().refuse(why.what); });
-    connect(&m_writing, &QFutureWatcherBase::finished, this, &Survey::tellWritten);
 }
 
 void Survey::btPDF_Click()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto *const dialog = new QFileDialog(this, text(u"Salvar PDF"), folder, u"PDF (*.pdf)"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"pdf"_s);
-    dialog->selectFile(u"%1 %2.pdf"_s.arg(text(u"Vistoria"), m_survey.run().model));
-    connect(dialog, &QFileDialog::fileSelected, this, &Survey::savePdf);
-    dialog->open();
-}
-
-void Survey::savePdf(const QString &path)
-{
-    const ReportDocument report = reportOf(m_survey.run(), m_survey.findings(),
-                                           {m_survey.surveyor(), m_survey.txtNota(), m_survey.logo()}, language());
-    m_btPdf->setEnabled(false);
-    m_writing.setFuture(QtConcurrent::run([report, path] { return writeReport(report, path); }));
-}
-
-void Survey::tellWritten()
-{
-    m_btPdf->setEnabled(m_survey.hasReading());
-    if (const Result<Done> written = m_writing.result(); !written)
-        m_survey.session().boxes().message(written.trouble());
+    const QString name = u"%1 %2"_s.arg(text(u"Vistoria"), m_survey.run().model);
+    askForFile(this, {text(u"Salvar PDF"), name, FileKind::Pdf},
+               [this](const QString &path) { m_survey.savePdf(path); });
 }
 
 void Survey::goTo(const QString &what)

@@ -2,9 +2,6 @@
 
 #include "panelmodel.h"
 #include "readingform.h"
-#include "result.h"
-
-#include <QFutureWatcher>
 
 class PanelGrid;
 class QCheckBox;
@@ -22,9 +19,6 @@ public:
     void Traducao_Form() override;
     void goTo(const QString &what) override;
 
-    /// Writes the report, away from the interface. What keeps it from being written is told in a box.
-    void savePdf(const QString &path);
-
 protected:
     QStringView readHint() const override { return u"DICA_VISTORIA"; }
     void paintPanel() override;
@@ -33,7 +27,6 @@ private:
     QWidget *body();
     void connectControls();
     void btPDF_Click();
-    void tellWritten();
 
     SurveyScreen &m_survey;
     PanelModel m_rows;
@@ -46,5 +39,4 @@ private:
     QPushButton *m_btPdf;
     QPushButton *m_btCancelar;
     QPushButton *m_btIniciar;
-    QFutureWatcher<Result<Done>> m_writing;
 };

@@ -4,21 +4,10 @@
 #include "surveypanel.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A limit on one side alone is drawn on both.
-std::optional<double> toleranceOf(const Finding &finding)
-{
-    if (!finding.rule)
-        return {};
-    const double widest =
-        std::max(std::abs(finding.rule->lowest.value_or(0)), std::abs(finding.rule->highest.value_or(0)));
-    return widest > 0 ? std::optional(widest) : std::nullopt;
-}
 
 ReportFinding rowOf(const Finding &finding)
 {
@@ -30,7 +19,7 @@ ReportFinding rowOf(const Finding &finding)
             .line = finding.line,
             .screen = finding.screens.join(", "_L1),
             .deviation = finding.deviation,
-            .tolerance = toleranceOf(finding),
+            .tolerance = drawnTolerance(finding.rule),
             .verdict = finding.verdict};
 }
 
@@ -48,7 +37,6 @@ ReportDocument reportOf(const SurveyRun &run, const QList<Finding> &findings, co
 {
     ReportDocument report{.title = caption(u"Vistoria", language),
                           .shop = signing.name,
-                          .logoFile = signing.logoFile,
                           .model = run.model,
                           .serial = run.serial().isEmpty() ? caption(u"desconhecido", language) : run.serial(),
                           .date = run.started.toString(u"yyyy-MM-dd HH:mm"_s),

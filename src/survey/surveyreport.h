@@ -8,7 +8,6 @@ struct SurveySigning
 {
     QString name;
     QString note;
-    QString logoFile = {};
 };
 
 /// The findings of a survey as the document that a customer is handed.

@@ -3,6 +3,7 @@
 #include "replycodes.h"
 #include "settingkeys.h"
 #include "settings.h"
+#include "surveyreport.h"
 
 #include <QUuid>
 
@@ -15,11 +16,14 @@ static constexpr int kRepeats = 2;
 static constexpr auto kPause = 1000ms;
 
 SurveyScreen::SurveyScreen(Session &session, QObject *parent)
-    : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent), m_journal(session.store())
+    : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent),
+      m_journal(session.store()),
+      m_documents(session)
 {
     m_timerPasso.setInterval(kTick);
     connect(&m_timerPasso, &QTimer::timeout, this, &SurveyScreen::TimerPasso_Timer);
     connect(&m_journal, &SurveyJournal::failed, this, &SurveyScreen::journalFailed);
+    connect(&m_documents, &DocumentMaker::busyChanged, this, &SurveyScreen::showProgress);
     connect(&session, &Session::readingsCleared, this, &SurveyScreen::forget);
     connect(&session, &Session::languageChanged, this, &SurveyScreen::rebuild);
     connect(&session, &Session::storeFailed, this, [this] {
@@ -36,9 +40,6 @@ void SurveyScreen::open()
             if (m_name.isEmpty())
                 m_name = stored;
         });
-    withStore<QString>(
-        Store::Access::Read, [](Store &store) { return setting(store, u"logo"_s); },
-        [this](const QString &logo) { m_logo = logo; });
     rebuild();
 }
 
@@ -235,6 +236,16 @@ void SurveyScreen::keepNote()
     withStore<Done>(
         Store::Access::Write, [id, note](Store &store) { return setJournalNote(store, id, note); },
         [](const Done &) {});
+}
+
+ReportDocument SurveyScreen::report() const
+{
+    return reportOf(m_run, m_findings, {m_name, m_note}, session().language());
+}
+
+void SurveyScreen::savePdf(const QString &path)
+{
+    m_documents.make(report(), path, DocumentMaker::Afterwards::Tell);
 }
 
 SurveyPace SurveyScreen::pace() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documentmaker.h"
 #include "screen.h"
 #include "surveyjournal.h"
 #include "surveypace.h"
@@ -49,9 +50,10 @@ public:
     const QString &txtNota() const { return m_note; }
     /// Who signs the survey, in place of the name in the store.
     void chooseName(const QString &name) { m_name = name; }
-    const QString &surveyor() const { return m_name; }
-    /// The picture at the head of the report; empty: none.
-    const QString &logo() const { return m_logo; }
+    /// What a customer is handed.
+    ReportDocument report() const;
+    /// Writes it, away from the interface.
+    void savePdf(const QString &path);
     /// A row of the table was activated: the screen that shows it is opened.
     void DBGrid1_Click(qsizetype row);
 
@@ -103,12 +105,12 @@ private:
     Journaling m_journaling = Journaling::Kept;
     QString m_note;
     QString m_name;
-    QString m_logo;
     bool m_isRunning = false;
     bool m_isAsked = false; ///< the first step that waits is in flight
     bool m_isCancelled = false;
     std::chrono::milliseconds m_rest{0};
     int m_repeats = 0; ///< of the question that is asked now
+    DocumentMaker m_documents;
     QElapsedTimer m_sinceAsked;
     QTimer m_timerPasso;
 };

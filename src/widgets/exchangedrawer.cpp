@@ -3,12 +3,12 @@
 #include "catalogue.h"
 #include "findbar.h"
 #include "longlines.h"
+#include "savedialog.h"
 #include "textpane.h"
 #include "theme.h"
 #include "visibletext.h"
 
 #include <QDateTime>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -128,13 +128,9 @@ void ExchangeDrawer::keyPressEvent(QKeyEvent *event)
 
 void ExchangeDrawer::save()
 {
-    auto *dialog = new QFileDialog(this, caption(u"Salvar registro", m_language), u"tavimo-prelt.log"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"log"_s);
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+    const auto write = [this](const QString &path) {
         if (const Result<Done> saved = m_log.saveTo(path); !saved)
             emit saveFailed(saved.trouble());
-    });
-    dialog->open();
+    };
+    askForFile(this, {caption(u"Salvar registro", m_language), u"tavimo-prelt"_s, FileKind::Log}, write);
 }

@@ -27,7 +27,7 @@ public:
     void exportCsv() { m_export->exportCsv(); }
 
 signals:
-    void exportFailed(const QString &path, const QString &reason);
+    void exportFailed(const Trouble &trouble);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -3,11 +3,10 @@
 #include "catalogue.h"
 #include "icons.h"
 #include "readingform.h"
+#include "savedialog.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -50,15 +49,7 @@ void ReportButtons::Traducao(Language language)
 
 void ReportButtons::chooseFile()
 {
-    if (!m_export.hasSomething())
-        return;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto *const dialog =
-        new QFileDialog(this, caption(u"Salvar relatório como…", m_language), folder, u"PDF (*.pdf)"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"pdf"_s);
-    dialog->selectFile(m_export.suggestedName() + ".pdf"_L1);
-    connect(dialog, &QFileDialog::fileSelected, &m_export, &ReportExport::savePdf);
-    dialog->open();
+    if (m_export.hasSomething())
+        askForFile(this, {caption(u"Salvar relatório como…", m_language), m_export.suggestedName(), FileKind::Pdf},
+                   [this](const QString &path) { m_export.savePdf(path); });
 }

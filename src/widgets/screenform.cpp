@@ -33,6 +33,11 @@ QString ScreenForm::text(QStringView key) const
     return caption(key, language());
 }
 
+void ScreenForm::tellUnwritten(const Trouble &trouble)
+{
+    m_screen->session().boxes().message(trouble);
+}
+
 void ScreenForm::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);

@@ -35,6 +35,8 @@ protected:
     Painter &painter() { return m_painter; }
     Language language() const;
     QString text(QStringView key) const;
+    /// A file that the user asked for was not written.
+    void tellUnwritten(const Trouble &trouble);
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     /// Paints the screen's panel; a form that shows more than named controls adds to it.

@@ -3,14 +3,13 @@
 #include "catalogue.h"
 #include "gridtext.h"
 #include "icons.h"
+#include "savedialog.h"
+#include "wholefile.h"
 
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QSaveFile>
 #include <QShortcut>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -44,22 +43,11 @@ void TableExport::copy()
 
 void TableExport::exportCsv()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto *const dialog = new QFileDialog(&m_view, caption(u"Exportar CSV", m_language), folder, u"CSV (*.csv)"_s);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(u"csv"_s);
-    dialog->selectFile(m_name + u".csv"_s);
-    connect(dialog, &QFileDialog::fileSelected, this, &TableExport::writeCsv);
-    dialog->open();
-}
-
-void TableExport::writeCsv(const QString &path)
-{
-    QSaveFile file(path);
-    const QByteArray bytes = csv();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        emit exportFailed(path, file.errorString());
+    const auto write = [this](const QString &path) {
+        if (const Result<Done> written = writeWhole(csv(), path); !written)
+            emit exportFailed(written.trouble());
+    };
+    askForFile(&m_view, {caption(u"Exportar CSV", m_language), m_name, FileKind::Csv}, write);
 }
 
 void TableExport::openMenu(const QPoint &place)

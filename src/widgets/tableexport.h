@@ -1,6 +1,7 @@
 #pragma once
 
 #include "language.h"
+#include "result.h"
 
 #include <QObject>
 
@@ -32,11 +33,10 @@ public slots:
     void exportCsv();
 
 signals:
-    void exportFailed(const QString &path, const QString &reason);
+    void exportFailed(const Trouble &trouble);
 
 private:
     void openMenu(const QPoint &place);
-    void writeCsv(const QString &path);
 
     QWidget &m_view;
     const QAbstractItemModel &m_table;

@@ -162,15 +162,22 @@ private slots:
         QVERIFY(QFile::exists(bench.folder.filePath(u"mine.pdf"_s)));
         QVERIFY(bench.handedOut.isEmpty());
 
+        bench.set(u"logo"_s, bench.folder.filePath(u"mine.pdf"_s)); // no picture
+        bench.report.savePdf(bench.folder.filePath(u"plain.pdf"_s));
+        QTRY_COMPARE(bench.boxes.keys, QStringList({u"LOGO_NOT_READ"_s}));
+        QVERIFY(QFile::exists(bench.folder.filePath(u"plain.pdf"_s)));
+
+        bench.boxes.keys.clear();
+        bench.set(u"logo"_s, {});
         bench.report.savePdf(bench.folder.path()); // a folder
-        QTRY_COMPARE(bench.boxes.keys, QStringList({u"PDF_NOT_WRITTEN"_s}));
+        QTRY_COMPARE(bench.boxes.keys, QStringList({u"FILE_NOT_WRITTEN"_s}));
     }
 
     void documentHoldsMoreThanTheAddress()
     {
         const Panel panel = readAcorn(
             {u"\r\nacorn vn : -6000.0000 mV\r\nacorn vp : 10810.0000 mV\r\n"_s, false, u"IP X"_s, Language::English});
-        const ReportDocument document = reportDocument(panel, kHead, {});
+        const ReportDocument document = reportDocument(panel, kHead);
         QCOMPARE(document.title, u"Report - Acorn"_s);
         QCOMPARE(document.findings.size(), 11);
         const ReportFinding &fault = document.findings.at(3);

@@ -72,7 +72,7 @@ private slots:
 
         const Result<Done> refused = writePdf(u"x"_s, u"x"_s, folder.filePath(u"no/such/folder.pdf"_s));
         QVERIFY(!refused);
-        QCOMPARE(refused.trouble().what.key, u"PDF_NOT_WRITTEN"_s);
+        QCOMPARE(refused.trouble().what.key, u"FILE_NOT_WRITTEN"_s);
     }
 };
 

@@ -140,7 +140,7 @@ private slots:
     {
         const Result<Done> refused = writeReport(reportOf(1, Language::English), m_folder.filePath(u"no/such.pdf"_s));
         QVERIFY(!refused);
-        QCOMPARE(refused.trouble().what.key, u"PDF_NOT_WRITTEN"_s);
+        QCOMPARE(refused.trouble().what.key, u"FILE_NOT_WRITTEN"_s);
         const Result<Done> folder = writeReport(reportOf(1, Language::English), m_folder.path());
         QVERIFY(!folder);
     }

@@ -265,7 +265,7 @@ private slots:
         JournalBench bench;
         bench.select(1);
         bench.screen().print(bench.folder.filePath(u"nowhere/survey.pdf"_s));
-        QTRY_COMPARE(bench.boxes.keys, QStringList{u"PDF_NOT_WRITTEN"_s});
+        QTRY_COMPARE(bench.boxes.keys, QStringList{u"FILE_NOT_WRITTEN"_s});
         const QString path = bench.folder.filePath(u"survey.pdf"_s);
         bench.screen().print(path);
         QTRY_COMPARE(bench.opened.size(), 1);

@@ -6,5 +6,5 @@
 #include <QString>
 
 /// Writes a document to a file, whole or not at all; what was there before stays unless the new one is complete.
-/// Trouble: PDF_NOT_WRITTEN.
+/// Trouble: FILE_NOT_WRITTEN.
 Result<Done> writeWhole(const QByteArray &document, const QString &path);

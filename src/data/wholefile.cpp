@@ -1,0 +1,27 @@
+#include "wholefile.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStorageInfo>
+
+using namespace Qt::StringLiterals;
+
+/// The system's words; a disk that is full has none when it shows only as the last bytes are written out.
+static QString reasonOf(const QSaveFile &file, const QByteArray &document)
+{
+    const QStorageInfo disk(QFileInfo(file.fileName()).absolutePath());
+    const bool isFull =
+        file.error() != QFileDevice::OpenError && disk.isValid() && disk.bytesAvailable() < document.size();
+    return isFull ? u"No space left on device"_s : file.errorString();
+}
+
+Result<Done> writeWhole(const QByteArray &document, const QString &path)
+{
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush();
+    if (isWritten && file.commit())
+        return Done{};
+    const QString reason = reasonOf(file, document);
+    file.cancelWriting();
+    return Trouble{{u"FILE_NOT_WRITTEN"_s, {path, reason}}};
+}
