@@ -2,13 +2,14 @@
 
 #include "acornreading.h"
 #include "models.h"
+#include "selftest.h"
 #include "tigrisreading.h"
 #include "tristarreading.h"
 
 using namespace Qt::StringLiterals;
 
 TristarScreen::TristarScreen(Session &session, QObject *parent)
-    : ChipScreen(session, {u"Tristar"_s, u"10"_s, u"pmuadc --read all"_s, readTristar}, parent)
+    : ChipScreen(session, {u"Tristar"_s, u"10"_s, kSelfTest, readTristar}, parent)
 {
 }
 
@@ -24,7 +25,7 @@ AcornScreen::AcornScreen(Session &session, QObject *parent)
     : ChipScreen(session,
                  {.name = u"Acorn"_s,
                   .code = u"12"_s,
-                  .command = u"pmuadc --read all"_s,
+                  .command = kSelfTest,
                   .read = readAcorn,
                   .opening = Opening::Waits,
                   .fits = hasOledPanel,

@@ -56,13 +56,10 @@ void RecordErrand::tellRecorded()
         return fail({{u"STORE_FAILED"_s, {session().store().path(), u"read back"_s}}}, ExitCode::Store);
     const auto &[model, command] = std::tie(row->recording.aparelho, row->recording.comando);
     const auto bytes = static_cast<qint64>(row->recording.dados.size());
-    if (options().json)
-        printOut(document({{u"model"_s, model},
-                           {u"command"_s, command},
-                           {u"bytes"_s, bytes},
-                           {u"messages"_s, messagesArray(messages())}}));
-    else
-        printOut(oneLine({{u"RECORDED"_s, {model, command, QString::number(bytes)}}}, language()) + u'\n');
+    const QJsonObject recorded{
+        {u"model"_s, model}, {u"command"_s, command}, {u"bytes"_s, bytes}, {u"messages"_s, messagesArray(messages())}};
+    const Notice told{u"RECORDED"_s, {model, command, QString::number(bytes)}};
+    printOut(options().json ? document(recorded) : oneLine({told}, language()) + u'\n');
     finish(ExitCode::Good);
 }
 

@@ -1,5 +1,6 @@
 #include "surveyerrand.h"
 
+#include "findingjson.h"
 #include "json.h"
 #include "surveypanel.h"
 #include "terminal.h"
@@ -13,27 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kClearLine = "\r\x1b[K"_L1;
-
-QJsonValue orNull(std::optional<double> number)
-{
-    return number ? QJsonValue(*number) : QJsonValue();
-}
-
-QJsonArray findingsArray(const QList<Finding> &findings)
-{
-    QJsonArray array;
-    for (const Finding &finding : findings) {
-        array.append(QJsonObject{{u"what"_s, finding.what},
-                                 {u"screens"_s, QJsonArray::fromStringList(finding.screens)},
-                                 {u"reading"_s, finding.reading},
-                                 {u"reference"_s, finding.reference},
-                                 {u"source"_s, finding.source},
-                                 {u"deviation"_s, orNull(finding.deviation)},
-                                 {u"verdict"_s, word(finding.verdict)},
-                                 {u"line"_s, finding.line}});
-    }
-    return array;
-}
 
 QJsonArray stepsArray(const SurveyRun &run)
 {
@@ -158,7 +138,7 @@ QString SurveyErrand::jsonText()
                      {u"journal"_s, isKept ? QJsonValue(run.id) : QJsonValue()},
                      {u"commands"_s, stepsArray(run)},
                      {u"messages"_s, messagesArray(messages())},
-                     {u"findings"_s, findingsArray(m_survey.findings())}});
+                     {u"findings"_s, jsonOf(m_survey.findings())}});
 }
 
 QString SurveyErrand::readableText()

@@ -10,11 +10,9 @@ static constexpr int kVoltDecimals = 4;
 
 Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model)
 {
-    Result<QSqlQuery> table = store.run(kHasTable, {{u":table"_s, u"GoodBoards"_s}});
-    if (!table)
-        return table.trouble();
-    if (!table->next())
-        return QList<GoodReading>();
+    const Result<bool> isKept = store.hasTable(u"GoodBoards"_s);
+    if (!isKept || !*isKept)
+        return isKept ? Result(QList<GoodReading>()) : isKept.trouble();
     Result<QSqlQuery> query = store.run(kGoodReadings, {{u":model"_s, model}});
     if (!query)
         return query.trouble();

@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kYes = "1"_L1;
+/// Of the journal's tables the one that is made last: where it is, the others are.
+constexpr auto kLastTable = "SurveyFindings"_L1;
 
 QVariantMap rowOf(const JournalSurvey &survey)
 {
@@ -82,13 +84,6 @@ Result<QList<Row>> rowsOf(const Store &store, const Query &query, const QVariant
     return found;
 }
 
-/// A store that was never opened for writing by this version has no journal yet.
-Result<bool> hasJournal(const Store &store)
-{
-    Result<QSqlQuery> table = store.run(kHasTable, {{u":table"_s, u"SurveyFindings"_s}});
-    return table ? Result(table->next()) : table.trouble();
-}
-
 template <typename Row>
 Result<Done> writeAll(const Store &store, const Query &query, const QString &id, const QList<Row> &rows)
 {
@@ -121,7 +116,7 @@ Result<Done> keepInJournal(Store &store, const JournalEntry &entry)
 
 Result<QList<JournalSurvey>> journal(const Store &store, const QString &search)
 {
-    const Result<bool> there = hasJournal(store);
+    const Result<bool> there = store.hasTable(kLastTable);
     if (!there || !*there)
         return there ? Result(QList<JournalSurvey>()) : there.trouble();
     return rowsOf(store, kSurveys, {{u":pattern"_s, likePattern(u'*' + search + u'*')}}, &surveyAt);
@@ -130,7 +125,7 @@ Result<QList<JournalSurvey>> journal(const Store &store, const QString &search)
 Result<std::optional<JournalEntry>> journalEntry(const Store &store, const QString &id)
 {
     using Entry = std::optional<JournalEntry>;
-    const Result<bool> there = hasJournal(store);
+    const Result<bool> there = store.hasTable(kLastTable);
     if (!there || !*there)
         return there ? Result(Entry()) : there.trouble();
     const QVariantMap values{{u":id"_s, id}};

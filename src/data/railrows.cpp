@@ -67,13 +67,22 @@ struct Taken
     QString source;
 };
 
-/// The references that were taken from boards, by output. A store that was made before this was kept has none.
-QHash<QString, Taken> takenReferences(const Store &store, const RailFilter &filter)
+using TakenByOutput = QHash<QString, Taken>;
+
+/// The references that were taken from boards.
+Result<TakenByOutput> takenReferences(const Store &store, const RailFilter &filter)
 {
-    QHash<QString, Taken> byOutput;
+    const Result<bool> isKept = store.hasTable(u"TakenReferences"_s);
+    if (!isKept || !*isKept)
+        return isKept ? Result(TakenByOutput()) : isKept.trouble();
     Result<QSqlQuery> query = store.run(kTakenReferences, keysOf(filter));
-    while (query && query->next())
+    if (!query)
+        return query.trouble();
+    TakenByOutput byOutput;
+    while (query->next())
         byOutput.insert(query->value(0).toString().toLower(), {query->value(1).toString(), query->value(2).toString()});
+    if (query->lastError().isValid())
+        return store.trouble(*query);
     return byOutput;
 }
 
@@ -89,7 +98,7 @@ RailRow rowAt(const QSqlQuery &query)
     return row;
 }
 
-RailRow withOrigin(RailRow row, const QHash<QString, Origin> &known, const QHash<QString, Taken> &takenByOutput)
+RailRow withOrigin(RailRow row, const QHash<QString, Origin> &known, const TakenByOutput &takenByOutput)
 {
     const QString output = row.orig.toLower();
     const Origin origin = known.value(output);
@@ -105,13 +114,15 @@ Result<QList<RailRow>> rowsOf(const Store &store, const Query &query, const Rail
     const Result<QHash<QString, Origin>> known = origins(store, filter);
     if (!known)
         return known.trouble();
-    const QHash<QString, Taken> taken = takenReferences(store, filter);
+    const Result<TakenByOutput> taken = takenReferences(store, filter);
+    if (!taken)
+        return taken.trouble();
     Result<QSqlQuery> rails = store.run(query, keysOf(filter));
     if (!rails)
         return rails.trouble();
     QList<RailRow> rows;
     while (rails->next())
-        rows += withOrigin(rowAt(*rails), *known, taken);
+        rows += withOrigin(rowAt(*rails), *known, *taken);
     if (rails->lastError().isValid())
         return store.trouble(*rails);
     return rows;

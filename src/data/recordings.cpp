@@ -41,12 +41,11 @@ QString nameOf(const RecordingKey &key)
     return (key.model + QChar::Null + key.command).toLower();
 }
 
-// A store that was never opened for writing by this version has no hashes yet.
 Result<Hashes> hashesOf(const Store &store, const Query &query, const QVariantMap &values = {})
 {
-    const auto table = firstRow(store, kHasTable, {{u":table"_s, u"RecordingHash"_s}});
-    if (!table || !*table)
-        return table ? Result(Hashes()) : table.trouble();
+    const Result<bool> isKept = store.hasTable(u"RecordingHash"_s);
+    if (!isKept || !*isKept)
+        return isKept ? Result(Hashes()) : isKept.trouble();
     Result<QSqlQuery> rows = store.run(query, values);
     if (!rows)
         return rows.trouble();

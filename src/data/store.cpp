@@ -166,6 +166,12 @@ Result<Done> Store::rerun(QSqlQuery &query, const QVariantMap &values) const
     return Done{};
 }
 
+Result<bool> Store::hasTable(const QString &name) const
+{
+    Result<QSqlQuery> table = run(kHasTable, {{u":table"_s, name}});
+    return table ? Result(table->next()) : table.trouble();
+}
+
 Trouble Store::trouble(const QSqlQuery &query) const
 {
     return storeTrouble(query.lastError(), m_path);

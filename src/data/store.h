@@ -46,6 +46,9 @@ public:
     /// Executes a prepared query again, with other values.
     Result<Done> rerun(QSqlQuery &query, const QVariantMap &values) const;
 
+    /// A store that this version never opened for writing lacks the tables that it adds.
+    Result<bool> hasTable(const QString &name) const;
+
     /// What the last error of a query comes to, in words for a person.
     Trouble trouble(const QSqlQuery &query) const;
 

@@ -33,10 +33,10 @@ Result<Tables> tablesIn(const Store &store, StoreRole role)
     for (const SchemaTable &table : schemaTables()) {
         if (table.origin != SchemaTable::Origin::Added)
             continue;
-        Result<QSqlQuery> there = store.run(kHasTable, {{u":table"_s, QString(table.name)}});
-        if (!there)
-            return there.trouble();
-        if (there->next())
+        const Result<bool> isThere = store.hasTable(table.name);
+        if (!isThere)
+            return isThere.trouble();
+        if (*isThere)
             tables += table.name;
     }
     return tables;

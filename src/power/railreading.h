@@ -6,9 +6,6 @@
 #include "railorder.h"
 #include "settings.h"
 
-/// What every screen over rails asks: the power chip's own measurements, all of them in one reply.
-inline constexpr QLatin1StringView kSelfTest{"pmuadc --read all"};
-
 /// The self-test reply and what it is read with.
 struct RailInput
 {

@@ -1,5 +1,7 @@
 #include "railscreen.h"
 
+#include "selftest.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

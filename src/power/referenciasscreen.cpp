@@ -1,5 +1,7 @@
 #include "referenciasscreen.h"
 
+#include "selftest.h"
+
 #include <QDateTime>
 
 #include <algorithm>
@@ -9,7 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kCode = "22"_L1;
-constexpr auto kSelfTest = "pmuadc --read all"_L1;
 constexpr int kKinds = 3;
 
 /// A board's name as a person reads it.

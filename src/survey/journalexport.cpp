@@ -1,6 +1,7 @@
 #include "journalexport.h"
 
 #include "catalogue.h"
+#include "findingjson.h"
 #include "journalpanel.h"
 #include "surveyreport.h"
 
@@ -12,11 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonValue orNull(std::optional<double> number)
-{
-    return number ? QJsonValue(*number) : QJsonValue();
-}
-
 QJsonObject objectOf(const JournalSurvey &survey)
 {
     return {{u"id"_s, survey.id},           {u"started"_s, survey.started}, {u"ended"_s, survey.ended},
@@ -25,21 +21,9 @@ QJsonObject objectOf(const JournalSurvey &survey)
             {u"faults"_s, survey.faults}};
 }
 
-QJsonObject objectOf(const Finding &finding)
-{
-    return {{u"what"_s, finding.what},
-            {u"screens"_s, QJsonArray::fromStringList(finding.screens)},
-            {u"reading"_s, finding.reading},
-            {u"reference"_s, finding.reference},
-            {u"source"_s, finding.source},
-            {u"deviation"_s, orNull(finding.deviation)},
-            {u"verdict"_s, word(finding.verdict)},
-            {u"line"_s, finding.line}};
-}
-
 QJsonValue orNull(const std::optional<Finding> &finding)
 {
-    return finding ? QJsonValue(objectOf(*finding)) : QJsonValue();
+    return finding ? QJsonValue(jsonOf(*finding)) : QJsonValue();
 }
 
 QJsonArray exchangeArray(const QList<JournalReply> &replies)
@@ -54,11 +38,8 @@ QJsonArray exchangeArray(const QList<JournalReply> &replies)
 
 QByteArray surveyJson(const JournalEntry &entry)
 {
-    QJsonArray findings;
-    for (const Finding &finding : findingsOf(entry))
-        findings.append(objectOf(finding));
     QJsonObject object = objectOf(entry.survey);
-    object.insert(u"findings"_s, findings);
+    object.insert(u"findings"_s, jsonOf(findingsOf(entry)));
     object.insert(u"exchange"_s, exchangeArray(entry.replies));
     return QJsonDocument(object).toJson();
 }

@@ -1,23 +1,13 @@
 #include "journalpages.h"
 
 #include "catalogue.h"
+#include "findingcolumns.h"
 #include "journalscreen.h"
 #include "panelgrid.h"
 #include "screenform.h"
 #include "textpane.h"
 
 using namespace Qt::StringLiterals;
-
-static constexpr std::array kFindingColumns = {
-    GridColumn{u"Veredito", u"Veredito", ColumnKind::Verdict},
-    GridColumn{u"Achado", u"Achado", ColumnKind::Name},
-    GridColumn{u"Leitura", u"Leitura", ColumnKind::Number},
-    GridColumn{u"REF", u"Referência", ColumnKind::Number},
-    GridColumn{u"PORC", u"Desvio", ColumnKind::Deviation},
-    GridColumn{u"Telas", u"Telas"},
-    GridColumn{u"Fonte", u"Fonte"},
-    GridColumn{u"Linha", u"Linha da resposta"},
-};
 
 static constexpr std::array kOutputColumns = {
     GridColumn{u"Mudanca", u"Mudança", ColumnKind::Verdict},

@@ -1,5 +1,6 @@
 #include "survey.h"
 
+#include "findingcolumns.h"
 #include "icons.h"
 #include "panelgrid.h"
 #include "savedialog.h"
@@ -13,21 +14,10 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr std::array kColumns = {
-    GridColumn{u"Veredito", u"Veredito", ColumnKind::Verdict},
-    GridColumn{u"Achado", u"Achado", ColumnKind::Name},
-    GridColumn{u"Leitura", u"Leitura", ColumnKind::Number},
-    GridColumn{u"REF", u"Referência", ColumnKind::Number},
-    GridColumn{u"PORC", u"Desvio", ColumnKind::Deviation},
-    GridColumn{u"Telas", u"Telas"},
-    GridColumn{u"Fonte", u"Fonte"},
-    GridColumn{u"Linha", u"Linha da resposta"},
-};
-
 Survey::Survey(Session &session, QWidget *parent)
     : ReadingForm(std::make_unique<SurveyScreen>(session), parent),
       m_survey(static_cast<SurveyScreen &>(screen())),
-      m_rows(kColumns),
+      m_rows(kFindingColumns),
       m_grid(named(new PanelGrid(m_rows), u"DBGrid1"_s)),
       m_syscfg(named(new QCheckBox, u"OpSyscfg"_s)),
       m_memory(named(new QCheckBox, u"OpMemoria"_s)),

@@ -11,6 +11,7 @@
 #include "railreading.h"
 #include "replycodes.h"
 #include "rfsreading.h"
+#include "selftest.h"
 #include "tigrisreading.h"
 
 #include <array>
