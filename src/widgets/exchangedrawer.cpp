@@ -18,13 +18,11 @@ using namespace std::chrono_literals;
 static constexpr auto kPaintInterval = 80ms;
 /// What one painting takes in; of a flood the newest is shown, all of it is in the file.
 static constexpr qsizetype kBytesPerPaint = 32768;
-static constexpr int kLinesShown = 4000;
 
 ExchangeDrawer::ExchangeDrawer(ExchangeLog &log, QWidget *parent)
     : QWidget(parent), m_log(log), m_text(new TextPane(u"txtLog"_s)), m_find(new FindBar(u"Log"_s))
 {
     setObjectName(u"FrameLog"_s);
-    m_text->setMaximumBlockCount(kLinesShown);
     m_find->setPane(m_text);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::control, Spacing::unit, Spacing::control, Spacing::unit);

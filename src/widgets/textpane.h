@@ -30,7 +30,7 @@ public:
     int hits() const;
     int chosenHit() const;
 
-    static constexpr int kLinesShown = 10000;
+    static constexpr int kLinesShown = 4000;
 
 public slots:
     void TimerTexto_Timer();
