@@ -38,5 +38,17 @@ struct I2CInput
 /// A map of the buses: which of the devices that are expected answer, and what is likely to fail where one is silent.
 Panel readI2C(const I2CInput &input);
 
-/// The devices that answered, as those expected from now on; known ones keep their names.
+/// The devices that answered; known ones keep their names.
 QList<BusDevice> answeringDevices(const BusReply &reply, const QList<BusDevice> &expected);
+
+/// What is expected of a model once the phone that answered counts as good. A bus that was cut, or did not answer,
+/// stays as it is.
+struct KnownGood
+{
+    QList<ExpectedBus> buses;
+    int devices = 0;
+    QStringList added;
+    QStringList dropped; ///< were expected and are silent
+};
+
+KnownGood knownGood(const I2CInput &input, const QString &source);

@@ -203,23 +203,19 @@ void I2CScreen::btPdf_Click()
 
 void I2CScreen::btConhecido_Click()
 {
-    const QString source = u"recorded here, %1"_s.arg(QDate::currentDate().toString(Qt::ISODate));
-    QList<ExpectedBus> buses;
-    int count = 0;
-    for (const BusReply &reply : std::as_const(m_input.replies)) {
-        if (reply.reply.isEmpty() || reply.cut)
-            continue;
-        QList<BusDevice> devices = answeringDevices(reply, m_input.expected.value_or(QList<BusDevice>()));
-        for (BusDevice &device : devices)
-            device.source = source;
-        count += static_cast<int>(devices.size());
-        buses.append({session().model(), reply.bus, devices});
-    }
-    if (count == 0 || session().knownModel().isEmpty())
-        return session().refuse({u"REFUSED_NO_READING"_s});
-    const QString text = caption(u"CONHECIDO_I2C").arg(session().model()).arg(count).arg(buses.size());
-    session().boxes().ask({caption(u"Telefone bom conhecido"), text, Question::Choices::YesNo},
-                          [this, buses](Answer answer) {
+    const KnownGood known = knownGood(m_input, u"recorded here, %1"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
+    if (known.devices == 0)
+        return session().refuse({u"NOTHING_ON_BUSES"_s});
+    QStringList text{caption(u"CONHECIDO_I2C").arg(session().model()).arg(known.devices).arg(known.buses.size())};
+    const auto tell = [&](QStringView key, const QStringList &devices) {
+        if (!devices.isEmpty())
+            text.append(caption(key) + u'\n' + devices.join(u'\n'));
+    };
+    tell(u"Não serão mais esperados (não responderam):", known.dropped);
+    tell(u"Passam a ser esperados:", known.added);
+    const Answer preset = known.dropped.isEmpty() ? Answer::Yes : Answer::No;
+    session().boxes().ask({caption(u"Telefone bom conhecido"), text.join("\n\n"_L1), Question::Choices::YesNo, preset},
+                          [this, buses = known.buses](Answer answer) {
                               if (answer == Answer::Yes)
                                   keepKnownGood(buses);
                           });
@@ -243,7 +239,8 @@ QMap<QString, Field> I2CScreen::state() const
                                           .enabled = isFree && button == BusButton::Testable};
     }
     fields[u"btAutoTeste"_s] = {.text = caption(isRunning() ? u"Cancelar" : u"Auto Teste")};
-    fields[u"btConhecido"_s] = {.enabled = !isReading() && !isRunning() && !m_input.replies.isEmpty()};
+    fields[u"btConhecido"_s] = {.enabled = !isReading() && !isRunning() && !m_input.replies.isEmpty() &&
+                                           !session().knownModel().isEmpty()};
     fields[u"FrameVCore"_s] = {.visible = isReading() || isRunning()};
     if (isRunning())
         fields[u"Barra"_s] = {.value = 100 * m_next / kBuses};

@@ -97,6 +97,17 @@ void judgeSize(Panel &panel, const NandInput &input, bool isGood)
     }
 }
 
+/// What was asked for, where the answer is one line of its own.
+void tellAnswer(Panel &panel, const NandInput &input)
+{
+    const QString line = tellingLine(input.reply);
+    const bool isAskedFor = input.test == NandTest::Id || input.test == NandTest::Info;
+    if (const qsizetype colon = line.indexOf(u':'); isAskedFor && colon > 0)
+        addFact(panel, {.what = caption(nandCaption(input.test), input.language),
+                        .reading = line.sliced(colon + 1).trimmed(),
+                        .line = line});
+}
+
 void judge(Panel &panel, const NandInput &input, Answer answer)
 {
     const bool isGood = answer == Answer::Good;
@@ -109,6 +120,8 @@ void judge(Panel &panel, const NandInput &input, Answer answer)
     addCommunication(panel, {u"NAND"_s, isGood, input.cut, tellingLine(input.reply), input.language});
     if (input.test == NandTest::Size)
         judgeSize(panel, input, isGood);
+    else if (isGood)
+        tellAnswer(panel, input);
 }
 
 void listRails(Panel &panel, const NandInput &input)

@@ -5,6 +5,14 @@
 
 #include <functional>
 
+enum class Answer
+{
+    Ok,
+    Yes,
+    No,
+    Cancel
+};
+
 /// A question with its choices, in the user's language.
 struct Question
 {
@@ -18,14 +26,7 @@ struct Question
     QString title;
     QString text;
     Choices choices = Choices::YesNo;
-};
-
-enum class Answer
-{
-    Ok,
-    Yes,
-    No,
-    Cancel
+    Answer preset = Answer::Yes; ///< of a yes or no: what the Enter key gives
 };
 
 /// How the program speaks to a person: real dialogs in the window, lines in the terminal, a script in the tests.

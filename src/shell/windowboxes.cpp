@@ -87,6 +87,8 @@ QMessageBox *WindowBoxes::questionBox(const Question &question) const
     for (const AnswerButton &row : kAnswers)
         if (QAbstractButton *button = box->button(row.button); button && !row.key.isEmpty())
             button->setText(caption(row.key, m_language()));
+    if (question.preset == Answer::No)
+        box->setDefaultButton(QMessageBox::No);
     return box;
 }
 

@@ -82,6 +82,12 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"NADA_ESPERADO_I2C", u"Nenhum componente é esperado nos barramentos do %1: nada foi julgado.",
      u"No device is expected on the buses of the %1: nothing was judged.",
      u"No se espera ningún componente en los buses del %1: nada se evaluó."},
+    {u"CANCELADO_I2C", u"Teste interrompido. Barramentos não testados: %1", u"Test broken off. Buses not tested: %1",
+     u"Prueba interrumpida. Buses no probados: %1"},
+    {u"Não testado", u"Não testado", u"Not tested", u"No probado"},
+    {u"Não serão mais esperados (não responderam):", u"Não serão mais esperados (não responderam):",
+     u"No longer expected (they did not answer):", u"Ya no se esperarán (no respondieron):"},
+    {u"Passam a ser esperados:", u"Passam a ser esperados:", u"Expected from now on:", u"Se esperarán desde ahora:"},
     {u"Telefone bom conhecido", u"Telefone bom conhecido", u"Known-good phone", u"Teléfono bueno conocido"},
     {u"CONHECIDO_I2C",
      u"O que respondeu (%2 componentes em %3 barramentos) passa a ser o esperado do %1 nesses barramentos, no lugar do "

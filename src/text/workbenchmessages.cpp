@@ -197,6 +197,11 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
     {u"RECORDED",
      Information,
      {u"Gravado: %1, %2 (%3 bytes).", u"Recorded: %1, %2 (%3 bytes).", u"Grabado: %1, %2 (%3 bytes)."}},
+    {u"NOTHING_ON_BUSES",
+     Information,
+     {u"Nada respondeu nos barramentos testados: não há o que guardar.",
+      u"Nothing answered on the buses that were tested: there is nothing to keep.",
+      u"Nada respondió en los buses probados: no hay nada que guardar."}},
     // %1 the model, %2 the bus
     {u"REFUSED_BUS",
      Information,

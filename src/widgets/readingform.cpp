@@ -52,12 +52,22 @@ static QHBoxLayout *choiceRow(const QList<QWidget *> &choices)
     return row;
 }
 
+/// What stands below must not move under the pointer when the hint goes.
+static void keepPlace(QLabel &hint)
+{
+    QSizePolicy policy = hint.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    hint.setSizePolicy(policy);
+    hint.setMinimumHeight(hint.fontMetrics().height());
+}
+
 void ReadingForm::layOut(const Parts &parts)
 {
     auto *layout = pageColumn(this);
     layout->addLayout(headRow(parts.buttons));
     layout->addLayout(choiceRow(parts.choices));
     layout->addWidget(m_hint = named(new QLabel, u"lbDica"_s));
+    keepPlace(*m_hint);
     layout->addWidget(parts.body, 1);
     layout->addLayout(noteRow(parts));
     connect(&screen().session(), &Session::statusChanged, this, &ReadingForm::paintHint);
