@@ -51,6 +51,14 @@ Startup::~Startup()
         std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(stateFile())), stderr);
 }
 
+/// Kept as it changes, not only at the end: a bench's computer is switched off without asking.
+void Startup::keepLayout()
+{
+    const auto keep = [this] { keepWindowState(m_window.state(), stateFile()); }; // the end tells when it cannot be
+    QObject::connect(&m_window, &Inicial::screensChanged, &m_window, keep);
+    QObject::connect(&m_session, &Session::portOpened, &m_window, keep);
+}
+
 void Startup::keepBackup()
 {
     if (const Result<bool> kept = rollBackups(m_store.path()); !kept)
@@ -98,6 +106,7 @@ void Startup::begin()
     if (!m_options.screen.isEmpty())
         m_window.openScreen(m_options.screen);
     m_window.showLog(m_options.showsLog);
+    keepLayout();
     if (m_options.reads)
         readOnceConnected();
     QTimer::singleShot(0, &m_window, [this] { lookAround(); }); // the window comes first

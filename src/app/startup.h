@@ -23,6 +23,7 @@ private:
     void lookAround();
     void probeInternet();
     void keepBackup();
+    void keepLayout();
     void readOnceConnected();
 
     StartOptions m_options;

@@ -122,6 +122,7 @@ static QWidget *headed(const QString &name, QLabel *heading, QPlainTextEdit *box
 QWidget *CheckForm::replyBox()
 {
     m_lbDados = named(new QLabel, u"lbDispConectado"_s);
+    m_lbDados->setWordWrap(true);
     m_txtDados = phoneText(u"txtDados"_s);
     connect(&m_check, &CheckScreen::replyGrew, m_txtDados, [this](const QString &text) { append(*m_txtDados, text); });
     return headed(u"FrameDados"_s, m_lbDados, m_txtDados);

@@ -125,13 +125,11 @@ ExitCode import(const CommonOptions &options, const QString &file, const QString
     const Result<ImportSummary> took = importUserStore(*store, file);
     if (!took)
         return failed(options, took.trouble());
-    const QList<int> counts = {took->rails, took->recordings, took->commands, took->leftOut};
-    QStringList texts;
-    for (const int count : counts)
-        texts += QString::number(count);
-    return told(
-        options, {u"STORE_IMPORTED"_s, texts},
-        {{u"rails"_s, counts[0]}, {u"recordings"_s, counts[1]}, {u"commands"_s, counts[2]}, {u"leftOut"_s, counts[3]}});
+    return told(options, toldOf(*took),
+                {{u"rails"_s, took->rails},
+                 {u"recordings"_s, took->recordings},
+                 {u"commands"_s, took->commands},
+                 {u"leftOut"_s, took->leftOut}});
 }
 
 ExitCode exportTables(const CommonOptions &options, const QString &folder, const QString & /*none*/)

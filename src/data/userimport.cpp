@@ -179,6 +179,14 @@ Result<Done> declineImport(Store &store)
     return refusal ? setSyncState(store, refusal->after) : Done{};
 }
 
+Notice toldOf(const ImportSummary &summary)
+{
+    QStringList texts;
+    for (const int count : {summary.rails, summary.recordings, summary.commands, summary.leftOut})
+        texts += QString::number(count);
+    return {u"STORE_IMPORTED"_s, texts};
+}
+
 Result<ImportSummary> importUserStore(Store &store, const QString &userPath)
 {
     const Result<UserStore> user = readUserStore(userPath);

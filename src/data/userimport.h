@@ -34,6 +34,9 @@ struct ImportSummary
     int leftOut = 0;    ///< rows with something in them that have no place here or were damaged
 };
 
+/// What was taken, in words.
+Notice toldOf(const ImportSummary &summary);
+
 /// Copies what a user store holds, all or nothing, and notes that it is done. The user store is looked at closely
 /// first and is not changed; trouble about it names its path, and then nothing was taken.
 Result<ImportSummary> importUserStore(Store &store, const QString &userPath);

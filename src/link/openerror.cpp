@@ -49,7 +49,7 @@ bool isSuspected(const Thief &thief, const OpenFacts &facts)
 
 Notice groupRemedy(const OpenFacts &facts)
 {
-    if (!facts.group->mayOpen)
+    if (!facts.group->mayOpen || facts.group->name.isEmpty())
         return {u"REMEDY_DEVICE_RIGHTS"_s, {facts.device}};
     return {facts.group->joined ? u"REMEDY_NEW_LOGIN"_s : u"REMEDY_GROUP"_s, {facts.group->name}};
 }
@@ -78,11 +78,9 @@ OpenFacts factsAbout(const QString &device)
 
 Trouble refusedTrouble(const OpenFacts &facts)
 {
+    if (facts.group) // who holds the device does not matter to someone who may not open it
+        return {{u"PORT_NOT_ALLOWED"_s, {facts.device}}, {groupRemedy(facts)}};
     Trouble trouble{{u"MSG_PORTA_EM_USO"_s, {facts.device}}};
-    if (facts.group) { // who holds the device does not matter to someone who may not open it
-        trouble.remedies.append(groupRemedy(facts));
-        return trouble;
-    }
     if (!facts.holder || !isThief(facts.holder->program))
         trouble.remedies.append(holderRemedy(facts));
     for (const Thief &thief : kThieves) {

@@ -40,7 +40,8 @@ void ImportOffer::answered(Answer answer)
         return m_session.keep(declineImport);
     m_session.withStore<ImportSummary>(
         Store::Access::Write, [path = userStore()](Store &store) { return importUserStore(store, path); }, this,
-        [this](const ImportSummary &) {
+        [this](const ImportSummary &took) {
+            m_session.refuse(toldOf(took)); // the line at the bottom: some rows may have been left out
             m_session.boxes().message({{u"MSG_DADOS_SYNC"_s}});
             m_session.load();
         });

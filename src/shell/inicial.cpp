@@ -174,6 +174,7 @@ void Inicial::connectWindow()
             [this](const QPoint &place) { m_menu->popup(m_rail->mapToGlobal(place)); });
     connect(m_rail, &ModuleRail::screenPressed, m_tabs, &ScreenTabs::open);
     connect(m_tabs, &ScreenTabs::changed, this, &Inicial::paintTabs);
+    connect(m_tabs, &ScreenTabs::changed, this, &Inicial::screensChanged);
     connect(m_tabs, &ScreenTabs::formOpened, this, &Inicial::connectForm);
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, m_findingsButton, &QToolButton::click);
     connect(m_findings, &FindingsPanel::countChanged, this, &Inicial::paintFindings);
@@ -256,7 +257,10 @@ void Inicial::connectForm(ScreenForm *form)
     connect(&form->screen(), &Screen::screenRequested, m_tabs, &ScreenTabs::goTo);
     connect(&form->screen(), &Screen::judged, this, [this, form] { m_findings->add(form->screen().judgements()); });
     connect(&form->screen(), &Screen::panelChanged, this, &Inicial::paintProgress);
-    connect(form, &ScreenForm::keepingAsked, this, [this] { m_toldTrouble.reset(); });
+    connect(form, &ScreenForm::keepingAsked, this, [this] {
+        m_toldTrouble.reset();
+        m_notice->clear(); // what failed before says nothing of this try
+    });
 }
 
 WindowState Inicial::state() const
@@ -310,6 +314,8 @@ void Inicial::paintStatus()
     setWindowTitle(m_session.windowCaption());
     if (m_session.Status() == "3"_L1)
         m_notice->clear(); // what was refused before is settled by what is sent now
+    m_emptyHint->setText(m_session.isConnected() ? text(u"DICA_TELA")
+                                                 : text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));
     paintProgress();
 }
 
@@ -415,7 +421,6 @@ void Inicial::Traducao_Form_Inicial()
     m_btReconectar->setText(text(u"Reconectar"));
     m_btLog->setText(text(u"Registro da comunicação"));
     m_btLog->setToolTip(text(u"Registro da comunicação") + "  (F12)"_L1);
-    m_emptyHint->setText(text(u"DICA_CONECTAR") + u'\n' + text(u"DICA_TELA"));
     buildMenu();
     paintStatus();
     paintTabs();

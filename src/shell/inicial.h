@@ -64,6 +64,8 @@ public:
 signals:
     /// The about box asks for what a former version's store holds.
     void importWanted();
+    /// Another screen is in front, or none any more.
+    void screensChanged();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

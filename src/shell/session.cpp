@@ -428,6 +428,5 @@ void Session::TimerFecha_Timer()
 {
     m_timerFecha.stop();
     m_parts.port.close();
-    m_parts.boxes.message({{u"MSG_PORTA_NAO_RESPONDE"_s}});
     emit portsWanted();
 }

@@ -237,7 +237,8 @@ private slots:
     {
         QFETCH(OpenFacts, facts);
         const Trouble trouble = refusedTrouble(facts);
-        QCOMPARE(trouble.what, (Notice{u"MSG_PORTA_EM_USO"_s, {facts.device}}));
+        const QString cause = facts.group ? u"PORT_NOT_ALLOWED"_s : u"MSG_PORTA_EM_USO"_s;
+        QCOMPARE(trouble.what, (Notice{cause, {facts.device}}));
         QTEST(told(trouble), "remedies");
     }
 

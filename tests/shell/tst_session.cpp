@@ -341,8 +341,9 @@ private slots:
         QCOMPARE(bench.screen.last.reply, shown(answer(profile, "pmuadc --read all")));
         QVERIFY(!bench.screen.last.cut);
         phone.unplug();
-        QTRY_COMPARE(bench.log, QStringList({u"MSG_PORTA_NAO_RESPONDE"_s}));
-        QCOMPARE(session.Status(), u"0"_s);
+        QTRY_COMPARE(session.Status(), u"0"_s);
+        QTRY_VERIFY(!port.isOpen());
+        QCOMPARE(bench.log, QStringList()); // no box stands in the way of connecting again
     }
 };
 
