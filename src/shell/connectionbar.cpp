@@ -213,8 +213,9 @@ void ConnectionBar::paintModel()
 {
     m_comboAparelhos->setVisible(!m_session.isModelKnown());
     m_comboAparelhosX->setVisible(m_session.isModelKnown());
+    const bool isToBeChosen = m_session.isConnected() && !m_session.isModelKnown(); // the last phone's is no answer
     for (QComboBox *models : {m_comboAparelhos, m_comboAparelhosX})
-        models->setCurrentIndex(models->findText(m_session.model()));
+        models->setCurrentIndex(isToBeChosen ? -1 : models->findText(m_session.model()));
     m_lbModelo->setText(m_session.lbModelo());
     m_lbTristarTigris->setText(portController(m_session.model()) + "\nTigris"_L1);
     m_lbTristarTigris->setVisible(m_session.isModelKnown());
