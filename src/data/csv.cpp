@@ -79,7 +79,7 @@ QString written(const QString &value)
     QString cell = guarded(value);
     const bool plain =
         std::ranges::none_of(cell, [](QChar letter) { return QStringView(u",;\t\r\n\x22").contains(letter); });
-    return plain ? cell : u'"' + cell.replace(u'"', "\"\""_L1) + u'"';
+    return plain ? cell : u'"' + cell.replace(u'"', R"("")"_L1) + u'"';
 }
 
 } // namespace

@@ -21,7 +21,7 @@ SeedTable seedTable(const QString &name)
 {
     keepSeeds();
     QFile file(u":/prelt/seed/%1.csv"_s.arg(name));
-    const bool opened = file.open(QIODevice::ReadOnly);
+    [[maybe_unused]] const bool opened = file.open(QIODevice::ReadOnly);
     Q_ASSERT(opened);
     const std::optional<QList<QStringList>> records = csvRecords(QString::fromUtf8(file.readAll()));
     Q_ASSERT(opened && records && !records->isEmpty());

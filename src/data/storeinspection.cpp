@@ -138,10 +138,11 @@ Result<Findings> changedRecordings(const Store &store)
         return all.trouble();
     Findings found;
     for (const auto &[recording, integrity] : *all) {
-        if (integrity == Integrity::Changed)
+        if (integrity == Integrity::Changed) {
             found += {Kind::Untidy, u"Dados"_s,
                       u"the recording %1: %2 changed since it was saved"_s.arg(plainName(recording.aparelho),
                                                                                plainName(recording.comando))};
+        }
     }
     return found;
 }
@@ -159,10 +160,11 @@ Result<Findings> repeatedRows(const Store &store)
     Result<QSqlQuery> repeated = store.run(kRepeatedRecordings);
     if (!repeated)
         return repeated.trouble();
-    while (repeated->next())
+    while (repeated->next()) {
         found += {Kind::Untidy, u"Dados"_s,
                   u"%1 recordings of %2: %3"_s.arg(repeated->value(2).toInt())
                       .arg(plainName(repeated->value(0).toString()), plainName(repeated->value(1).toString()))};
+    }
     return found;
 }
 
