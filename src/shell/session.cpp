@@ -1,7 +1,6 @@
 #include "session.h"
 
 #include "catalogue.h"
-#include "commandguard.h"
 #include "railrows.h"
 #include "replycodes.h"
 #include "settings.h"
@@ -13,8 +12,6 @@
 using namespace Qt::StringLiterals;
 
 static constexpr auto kHelpVideo = "help-video"_L1;
-/// What the console keeps of one reply, its beginning; the exchange log has all of it.
-static constexpr qsizetype kMostConsole = 12 << 20;
 
 Session::Session(SessionParts parts, QObject *parent)
     : QObject(parent),
@@ -235,163 +232,6 @@ void Session::detach(const Receiver *receiver)
     if (m_receivers.value(m_origin) == receiver)
         m_origin.clear();
     m_receivers.removeIf([receiver](const auto &entry) { return entry.value() == receiver; });
-}
-
-bool Session::maySend(const QString &command)
-{
-    if (!leavesPhoneAsItIs(command)) {
-        m_parts.boxes.message({{u"MSG_SYSCFG"_s}});
-        return false;
-    }
-    if (!isReady())
-        refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
-    return isReady();
-}
-
-bool Session::requestInstead(const QString &code, const QString &command)
-{
-    if (isInFlight() && m_code == code && leavesPhoneAsItIs(command)) {
-        stopPolling();
-        enter(u'1', m_st1);
-    }
-    return request(code, command);
-}
-
-void Session::stop(const QString &code)
-{
-    if (!isInFlight() || m_fetching || m_code != code)
-        return;
-    if (m_timer1.isActive())
-        startConsole();
-    stopPolling();
-    AdicionaDadosConsole(QString::fromLatin1(m_parts.port.read()));
-    m_cut = true;
-    BuscaDadosGravados();
-}
-
-void Session::stopPolling()
-{
-    m_timer1.stop();
-    m_timer2.stop();
-    m_fetching.reset();
-}
-
-bool Session::request(const QString &code, const QString &command)
-{
-    if (!maySend(command))
-        return false;
-    m_code = code;
-    m_txtComandos = command;
-    EnviaComando();
-    return isInFlight();
-}
-
-void Session::EnviaComando()
-{
-    if (m_txtComandos.isEmpty())
-        return;
-    if (!m_parts.port.isOpen())
-        return refuse({u"REFUSED_NOT_CONNECTED"_s});
-    if (isInFlight())
-        return refuse({u"REFUSED_BUSY"_s});
-    m_parts.port.discardInput();
-    m_timer1.start();
-    enter(u'3', u"Comunicando"_s);
-    m_parts.port.write(m_txtComandos.toLatin1() + '\r');
-}
-
-void Session::AdicionaDadosConsole(const QString &chunk)
-{
-    m_anyByte = m_anyByte || !chunk.isEmpty();
-    const QString text = QString(chunk).replace("\n"_L1, "\r\n"_L1);
-    const qsizetype room = kMostConsole - m_txtConsole.size();
-    m_cut = m_cut || text.size() > room;
-    m_txtConsole += QStringView(text).first(std::min(room, text.size()));
-    emit consoleAppended(text);
-}
-
-EndOfReply Session::endOfReply() const
-{
-    if (const ReplyCode *row = replyCode(m_code); row && row->endsBySilence)
-        return EndOfReply::Silence;
-    const bool atOnce = m_speedSetting == u'1' && m_txtComandos != kModelQuery;
-    return atOnce ? EndOfReply::PromptAtOnce : EndOfReply::Prompt;
-}
-
-void Session::startConsole()
-{
-    m_timer1.stop();
-    m_anyByte = false;
-    m_cut = false;
-    m_txtConsole = u"\r\n"_s;
-}
-
-void Session::Timer1_Timer()
-{
-    startConsole();
-    advance(firstPoll(m_parts.port.read(), endOfReply()));
-}
-
-void Session::Timer2_Timer()
-{
-    advance(followUpPoll(m_gathering, m_parts.port.read(), endOfReply(), m_speed.replyLimit));
-}
-
-void Session::advance(const Gathering &next)
-{
-    m_gathering = next;
-    AdicionaDadosConsole(QString::fromLatin1(next.chunk));
-    if (!next.complete) {
-        if (!m_timer2.isActive())
-            m_timer2.start();
-        return;
-    }
-    m_timer2.stop();
-    BuscaDadosGravados();
-}
-
-Delivery Session::delivery() const
-{
-    const QString reply = m_anyByte ? replyForCode(m_code, m_txtConsole, m_txtComandos) : QString();
-    return {m_txtComandos, reply, m_cut || !m_txtConsole.contains(QLatin1StringView(kPrompt))};
-}
-
-void Session::BuscaDadosGravados()
-{
-    const ReplyCode *row = replyCode(m_code);
-    if (row && row->rebindsRecordings)
-        fetchRecording();
-    else
-        deliver(delivery());
-}
-
-/// A store that is busy keeps the command in flight. One that fails is told, and the reply comes without a recording.
-void Session::fetchRecording()
-{
-    using Row = std::optional<KeptRecording>;
-    m_fetching = std::make_unique<QObject>();
-    const RecordingKey key{knownModel(), m_txtComandos};
-    m_parts.store.run<Row>(
-        Store::Access::Read, [key](Store &store) { return recordingFor(store, key.model, key.command); },
-        m_fetching.get(),
-        [this](const Result<Row> &row) {
-            Delivery finished = delivery();
-            m_fetching.reset();
-            finished.isBound = bool(row);
-            if (row)
-                finished.recording = *row;
-            else
-                emit storeFailed(row.trouble());
-            deliver(finished);
-        });
-}
-
-void Session::deliver(const Delivery &finished)
-{
-    const QString code = std::exchange(m_code, kMainWindowCode);
-    enter(u'1', m_accepted ? u"Conectado"_s : m_st1);
-    if (Receiver *receiver = m_receivers.value(code))
-        receiver->take(finished);
 }
 
 void Session::leaveLink(Release why)
