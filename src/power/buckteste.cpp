@@ -85,11 +85,7 @@ void BuckTeste::paintPanel()
 
 QString BuckTeste::ownHint() const
 {
-    QStringList unmeasured;
-    for (const Judgement &judgement : screen().panel().judgements)
-        if (judgement.verdict == Verdict::Incomplete)
-            unmeasured.append(judgement.what);
-    return unmeasured.isEmpty() ? QString() : unmeasured.join(", "_L1) + ": "_L1 + text(u"Sem Medição");
+    return m_bucks.unmeasured();
 }
 
 void BuckTeste::goTo(const QString &what)

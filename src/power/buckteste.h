@@ -20,7 +20,6 @@ public:
 protected:
     void paintPanel() override;
     QStringView readHint() const override { return u"DICA_BUCK"; }
-    /// A buck that gave no reading has no line: it is named here.
     QString ownHint() const override;
 
 private:

@@ -102,6 +102,26 @@ QString recordedLine(const BuckReply &reply, Language language)
     return line.isEmpty() ? none : line + warning;
 }
 
+/// In a run a buck without a result keeps its row, so that what is recorded of a buck stands beside it.
+QString liveLine(const BuckResult &result, int buck, const BuckInput &input)
+{
+    const bool isRun = input.replies.size() + input.untested.size() > 1;
+    const QString line = resultLine(result, buck, input.language);
+    return line.isEmpty() && isRun ? u"   buck%1: %2"_s.arg(buck).arg(caption(u"Sem Medição", input.language)) : line;
+}
+
+/// A run that was broken off is no pass, however good its beginning was.
+void addUntested(Panel &panel, const BuckInput &input)
+{
+    for (const int buck : input.untested)
+        panel.judgements.append({.what = u"buck%1"_s.arg(buck),
+                                 .reading = caption(u"Não testado", input.language),
+                                 .verdict = Verdict::Incomplete,
+                                 .screen = u"BuckTeste"_s});
+    if (!input.untested.isEmpty())
+        panel.verdict = worst(panel.verdict, Verdict::Incomplete);
+}
+
 } // namespace
 
 BuckReading readBucks(const BuckInput &input)
@@ -112,7 +132,7 @@ BuckReading readBucks(const BuckInput &input)
     for (const BuckReply &reply : input.replies) {
         const BuckResult result = buckResult(reply.reply, reply.buck);
         const Judgement judged = judgement(reply, result, input);
-        if (const QString line = resultLine(result, reply.buck, input.language); !line.isEmpty()) {
+        if (const QString line = liveLine(result, reply.buck, input); !line.isEmpty()) {
             panel.lines.append(line);
             reading.verdicts.append(judged.verdict);
         }
@@ -121,6 +141,7 @@ BuckReading readBucks(const BuckInput &input)
         panel.verdict = worst(panel.verdict, judged.verdict);
         recorded.append(recordedLine(reply, input.language));
     }
+    addUntested(panel, input);
     panel.screen = u"BuckTeste"_s;
     panel.title = caption(u"Auto teste de buck", input.language) + u" - Tavimo Prelt - "_s + input.model;
     panel.fields[u"ListViewComparador"_s].items = recorded;

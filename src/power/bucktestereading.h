@@ -19,6 +19,7 @@ struct BuckReply
 struct BuckInput
 {
     QList<BuckReply> replies; ///< in the order in which the bucks were tested
+    QList<int> untested = {}; ///< asked for, but not tested: not yet, or no more
     QString model;
     Language language = Language::Portuguese;
 };

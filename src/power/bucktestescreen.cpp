@@ -56,11 +56,11 @@ void BuckTesteScreen::loadBucks()
 
 static std::optional<int> buckNumber(const QString &text)
 {
-    static const QRegularExpression kNumber(u"^[0-9]{1,2}\\z"_s);
-    const QString number = QString(text).remove(u' ');
-    if (!kNumber.match(number).hasMatch() || number.toInt() > kLastBuck)
+    static const QRegularExpression kNumber(u"^0*([0-9]{1,2})\\z"_s);
+    const QRegularExpressionMatch number = kNumber.match(QString(text).remove(u' '));
+    if (!number.hasMatch() || number.captured(1).toInt() > kLastBuck)
         return {};
-    return number.toInt();
+    return number.captured(1).toInt();
 }
 
 void BuckTesteScreen::Pesquisa(Mode mode)
@@ -101,6 +101,7 @@ void BuckTesteScreen::start(const QList<int> &bucks)
     }
     forget();
     m_isCancelled = false;
+    m_asked = bucks;
     m_waiting = bucks;
     sendNext();
 }
@@ -158,6 +159,7 @@ void BuckTesteScreen::Botao2_Click()
 void BuckTesteScreen::forget()
 {
     m_input.replies.clear();
+    m_asked.clear();
     m_waiting.clear();
     rebuild();
 }
@@ -166,6 +168,29 @@ int BuckTesteScreen::progress() const
 {
     const qsizetype done = m_input.replies.size();
     return isReading() ? static_cast<int>(100 * done / (done + m_waiting.size())) : 0;
+}
+
+/// The replies come in the order in which the bucks were asked for.
+QList<int> BuckTesteScreen::untested() const
+{
+    return m_asked.sliced(std::min(m_asked.size(), m_input.replies.size()));
+}
+
+QString BuckTesteScreen::unmeasured() const
+{
+    if (isReading())
+        return {};
+    QStringList unread;
+    QStringList untested;
+    for (const Judgement &judgement : reading().judgements)
+        if (judgement.verdict == Verdict::Incomplete)
+            (judgement.reading == caption(u"Não testado") ? untested : unread).append(judgement.what);
+    QStringList texts;
+    if (!unread.isEmpty())
+        texts.append(unread.join(", "_L1) + ": "_L1 + caption(u"Sem Medição"));
+    if (!untested.isEmpty())
+        texts.append(caption(m_isCancelled ? u"TESTE_CANCELADO" : u"TESTE_INTERROMPIDO").arg(untested.join(", "_L1)));
+    return texts.join(u"   "_s);
 }
 
 QMap<QString, Field> BuckTesteScreen::state() const
@@ -186,6 +211,7 @@ void BuckTesteScreen::rebuild()
 {
     m_input.model = session().model();
     m_input.language = session().language();
+    m_input.untested = untested();
     const BuckReading reading = readBucks(m_input);
     m_verdicts = reading.verdicts;
     show(reading.panel, state());

@@ -40,6 +40,8 @@ public:
 
     /// The verdicts of the panel's lines.
     const QList<Verdict> &lineVerdicts() const { return m_verdicts; }
+    /// What the bucks want to be told of: those without a reading, and those that were not tested.
+    QString unmeasured() const;
 
     void take(const Delivery &delivery) override;
     void resume() override {}
@@ -54,11 +56,13 @@ private:
     void rebuild();
     bool isReading() const { return !m_waiting.isEmpty(); }
     int progress() const;
+    QList<int> untested() const;
     QMap<QString, Field> state() const;
 
     QString m_combo1;
     bool m_wantsAll = false;
     int m_lastBuck = -1;  ///< of the model; below 0: not known
+    QList<int> m_asked;   ///< the bucks of the last test
     QList<int> m_waiting; ///< the buck in flight and those that come after it
     bool m_isCancelled = false;
     BuckInput m_input;

@@ -122,7 +122,8 @@ private slots:
         columns<QString, QByteArray>({"typed", "command"});
         QTest::newRow("blanks") << u" 7 "_s << QByteArray("buckcheck 7");
         QTest::newRow("the last") << u"11"_s << QByteArray("buckcheck 11");
-        for (const char *typed : {"12", "-1", "5.0", "five", "", "5;1"})
+        QTest::newRow("zeros in front") << u"007"_s << QByteArray("buckcheck 7");
+        for (const char *typed : {"12", "0012", "-1", "5.0", "five", "", "5;1"})
             QTest::newRow(typed) << QString::fromLatin1(typed) << QByteArray();
     }
 
@@ -177,6 +178,7 @@ private slots:
             QCOMPARE(bench.port.commands.last(), "buckcheck " + QByteArray::number(buck));
             QCOMPARE(bench.screen->panel().fields[u"Barra"_s].value, std::optional(100 * buck / (last + 1)));
             QCOMPARE(bench.screen->panel().lines.size(), buck);
+            QVERIFY(bench.screen->panel().verdict != Verdict::Pass); // not before the last is tested
             QCOMPARE(ended.size(), 0);
             poll(bench);
         }
@@ -194,6 +196,9 @@ private slots:
         poll(bench);
         bench.screen->Botao2_Click(); // in the middle of buck1
         QCOMPARE(bench.screen->panel().lines.size(), 1);
+        QCOMPARE(bench.screen->panel().verdict, Verdict::Incomplete); // what was tested is good, the rest is not known
+        QCOMPARE(bench.screen->unmeasured(),
+                 u"Teste cancelado; não testados: buck1, buck2, buck3, buck4, buck5, buck6, buck7, buck8, buck9"_s);
         QCOMPARE(bench.session->Status(), u"1"_s);
         QCOMPARE(bench.screen->panel().fields[u"btBl"_s].enabled, std::optional(true));
 
@@ -203,6 +208,7 @@ private slots:
         poll(bench);
         QCOMPARE(bench.port.commands.size(), 1);
         QCOMPARE(bench.screen->panel().verdict, Verdict::Incomplete);
+        QVERIFY(bench.screen->unmeasured().contains(u"Teste interrompido; não testados: buck1, "_s));
 
         bench.port.keptBytes = PhonePort::kAll;
         bench.screen->Botao1_Click();
@@ -229,6 +235,16 @@ private slots:
             poll(bench);
             QCOMPARE(recorded(bench), QStringList(line));
         }
+    }
+
+    void aBuckHasOneRowInBothLists()
+    {
+        const auto check = [](int buck) { return u"buck%1: target 900 mV, measured 900 mV, PASS"_s.arg(buck); };
+        const BuckReading run = readBucks({.replies = {{4, check(4)}, {5, u"ERROR"_s}, {6, check(6)}}, .model = {}});
+        const QStringList recorded = *run.panel.fields.value(u"ListViewComparador"_s).items;
+        QCOMPARE(run.panel.lines.size(), recorded.size());
+        QCOMPARE(run.panel.lines.at(1), u"   buck5: Sem Medição"_s);
+        QCOMPARE(run.verdicts, QList({Verdict::Pass, Verdict::Incomplete, Verdict::Pass}));
     }
 
     void unknownModelIsAskedFor()
