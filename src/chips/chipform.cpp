@@ -123,7 +123,7 @@ void ChipForm::Traducao_Form()
 void ChipForm::paintPanel()
 {
     ReadingForm::paintPanel();
-    m_drawing->showPanel(screen().panel());
+    m_drawing->showPanel(screen().panel(), language());
     if (!m_reply)
         return;
     m_reply->setLines(m_chip.replyLines());

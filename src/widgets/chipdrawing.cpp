@@ -1,6 +1,8 @@
 #include "chipdrawing.h"
 
+#include "catalogue.h"
 #include "deviationmeter.h"
+#include "fieldpaint.h"
 #include "marklabel.h"
 #include "theme.h"
 #include "valuefield.h"
@@ -13,8 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr int kLead = 28; ///< from a reading to the block
-static constexpr int kMeterWidth = 61;
+static constexpr int kLead = 24; ///< from a reading to the block
+static constexpr int kMeterWidth = 45;
 static constexpr int kPinGap = 10;
 static constexpr int kLeastWidth = 96; ///< of the block, between the names of its pins
 static constexpr int kLeastHeight = 220;
@@ -119,9 +121,15 @@ QWidget *ChipDrawing::headOf(Laid &laid)
     if (pin.mark >= 0) {
         widgets.append(markNamed(u"OK(%1)"_s.arg(pin.mark), Verdict::Pass));
         widgets.append(markNamed(u"NO(%1)"_s.arg(pin.mark), Verdict::Fail));
-        for (QWidget *mark : widgets.sliced(1))
-            mark->setContentsMargins(0, kPinGap, 0, 0);
     }
+    if (!pin.warning.isEmpty()) {
+        widgets.append(laid.passed = markNamed(u"Aprovado"_s + pin.volts, Verdict::Pass));
+        widgets.append(laid.unmeasured = markNamed(u"NaoMedido"_s + pin.volts, Verdict::Incomplete));
+        widgets.append(markNamed(pin.warning, Verdict::Fail));
+        laid.passed->setText(u"OK"_s);
+    }
+    for (QWidget *mark : widgets.sliced(1))
+        mark->setContentsMargins(0, kPinGap, 0, 0);
     return outwards(pin, widgets);
 }
 
@@ -129,15 +137,17 @@ QWidget *ChipDrawing::rowOf(Laid &laid)
 {
     const ChipPin &pin = *laid.pin;
     QList<QWidget *> widgets;
-    const auto addField = [&widgets](QLatin1StringView name, QLatin1StringView sample) {
+    const auto addField = [&widgets](const QString &name, QLatin1StringView sample) {
         if (!name.isEmpty())
             widgets.append(named(new ValueField(sample), name));
     };
     addField(pin.volts, kVolts);
     addField(pin.amps, kAmps);
     addField(pin.deviation, kDeviation);
-    if (!pin.warning.isEmpty())
-        widgets.append(markNamed(pin.warning, Verdict::Fail));
+    if (!pin.warning.isEmpty()) {
+        addField("Desvio"_L1 + pin.volts, kDeviation);
+        laid.deviation = static_cast<ValueField *>(widgets.last());
+    }
     if (!pin.deviation.isEmpty() || !pin.warning.isEmpty()) {
         widgets.append(laid.meter = new DeviationMeter);
         laid.meter->setFixedWidth(kMeterWidth);
@@ -147,16 +157,28 @@ QWidget *ChipDrawing::rowOf(Laid &laid)
     return row;
 }
 
-void ChipDrawing::showPanel(const Panel &panel)
+void ChipDrawing::showPanel(const Panel &panel, Language language)
 {
     for (Laid &laid : m_laid) {
-        showFact(laid, panel);
+        showFact(laid, panel, language);
         nameReadings(laid);
     }
     update();
 }
 
-void ChipDrawing::showFact(Laid &laid, const Panel &panel)
+void ChipDrawing::tell(const Laid &laid, const Row &fact, Language language)
+{
+    const Colour back = fact.verdict == Verdict::Pass   ? Colour::Pass
+                        : fact.verdict == Verdict::Fail ? Colour::Fault
+                                                        : Colour::Neutral;
+    paintField(*laid.deviation, {.text = fact.cell(u"PORC"), .back = back}, {});
+    laid.unmeasured->setText(caption(u"Não medido", language));
+    laid.passed->setVisible(laid.isSeen && fact.verdict == Verdict::Pass);
+    laid.unmeasured->setVisible(laid.isSeen && fact.verdict == Verdict::Incomplete);
+    laid.deviation->setVisible(laid.isSeen);
+}
+
+void ChipDrawing::showFact(Laid &laid, const Panel &panel, Language language)
 {
     laid.what = laid.pin->net.isEmpty() ? laid.caption->text() : QString(laid.pin->net);
     const auto isThis = [&laid](const Row &fact) { return fact.cell(u"Malha") == laid.what; };
@@ -170,9 +192,13 @@ void ChipDrawing::showFact(Laid &laid, const Panel &panel)
         laid.meter->setRow(shown);
     laid.row->setToolTip(shown.cell(u"REF"));
     const QList<ValueField *> fields = laid.row->findChildren<ValueField *>();
-    laid.isSeen = !laid.row->isHidden() && !std::ranges::all_of(fields, &QWidget::isHidden);
+    laid.isSeen = !laid.row->isHidden() && std::ranges::any_of(fields, [&laid](const ValueField *field) {
+        return field != laid.deviation && !field->isHidden();
+    });
     if (laid.meter)
         laid.meter->setVisible(laid.isSeen);
+    if (laid.deviation)
+        tell(laid, shown, language);
 }
 
 void ChipDrawing::nameReadings(const Laid &laid)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language.h"
 #include "panel.h"
 #include "pinpaint.h"
 
@@ -8,9 +9,11 @@
 #include <span>
 
 class DeviationMeter;
+class MarkLabel;
 class QBoxLayout;
 class QLabel;
 class QVBoxLayout;
+class ValueField;
 
 /// A pin of a chip and the controls that are laid at it. Their names are those of the panel's fields.
 struct ChipPin
@@ -22,7 +25,7 @@ struct ChipPin
     QLatin1StringView volts = {};
     QLatin1StringView amps = {};
     QLatin1StringView deviation = {};
-    QLatin1StringView warning = {};
+    QLatin1StringView warning = {}; ///< stands for the mark of a fault; the drawing adds deviation and other marks
     int mark = -1;
     QLatin1StringView frame = {}; ///< of the readings
 };
@@ -38,7 +41,7 @@ public:
     ChipDrawing(std::span<const ChipPin> pins, const QList<QWidget *> &core, QWidget *parent = nullptr);
 
     /// Draws what the panel's facts say of the pins and names the readings for those who do not see them.
-    void showPanel(const Panel &panel);
+    void showPanel(const Panel &panel, Language language);
     /// Frames the pin of a judged thing.
     void select(const QString &what);
 
@@ -54,6 +57,9 @@ private:
         QLabel *caption;
         QWidget *row;
         DeviationMeter *meter = nullptr;
+        ValueField *deviation = nullptr; ///< of a pin that has a warning, but no controls to tell the rest
+        MarkLabel *passed = nullptr;
+        MarkLabel *unmeasured = nullptr;
         QString what = {};
         Verdict verdict = Verdict::None;
         bool isSeen = true; ///< the model has it
@@ -63,7 +69,8 @@ private:
     void add(const ChipPin &pin, QVBoxLayout &column);
     QWidget *headOf(Laid &laid);
     QWidget *rowOf(Laid &laid);
-    void showFact(Laid &laid, const Panel &panel);
+    void showFact(Laid &laid, const Panel &panel, Language language);
+    static void tell(const Laid &laid, const Row &fact, Language language);
     void nameReadings(const Laid &laid);
     QRect areaOf(const Laid &laid) const;
     PinLine lineOf(const Laid &laid) const;

@@ -210,6 +210,9 @@ private slots:
         QCOMPARE(bench.control<QLabel>(u"VBus_V"_s)->text(), u"4.300 V"_s);
         QCOMPARE(bench.control<QLabel>(u"VBus_V"_s)->accessibleName(), u"VBUS 4.300 V"_s);
         QVERIFY(bench.control<QLabel>(u"Baixa1"_s)->isVisible());
+        QCOMPARE(bench.control<QLabel>(u"DesvioVBus_V"_s)->text(), u"6.3 %"_s);
+        QVERIFY(!bench.control<QLabel>(u"AprovadoVBus_V"_s)->isVisible());
+        QVERIFY(bench.control<QLabel>(u"AprovadoVBat_V"_s)->isVisible());
         QVERIFY(!bench.control<QLabel>(u"Baixa3"_s)->isVisible());
         QVERIFY(!bench.control<QLabel>(u"VBus_V1"_s)->isVisible());
         form->findChild<QPushButton *>(u"btLog"_s)->click();
