@@ -44,11 +44,21 @@ void ChipScreen::resume()
         refuseModel();
 }
 
+/// A text of the screen's own is an information box too.
+void ChipScreen::tellRefusal()
+{
+    const Notice &refusal = m_traits.refusal;
+    if (!refusal.key.isEmpty())
+        return session().boxes().message({refusal});
+    session().boxes().ask({refusal.arguments.value(0), refusal.arguments.value(1), Question::Choices::Ok},
+                          [](Answer) {});
+}
+
 void ChipScreen::refuseModel()
 {
     forgetReading();
     m_isRefused = true;
-    session().boxes().message({m_traits.refusal});
+    tellRefusal();
     end();
 }
 

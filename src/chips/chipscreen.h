@@ -85,6 +85,7 @@ protected:
 private:
     bool fitsModel() const;
     void refuseModel();
+    void tellRefusal();
 
     ChipScreenTraits m_traits;
     bool m_isRefused = false;
