@@ -83,6 +83,15 @@ static QPalette paletteOf(const Theme &theme)
     return palette;
 }
 
+/// The accent, so faint that the percentage is read on it as well as beside it.
+static QColor progressColour(const Theme &theme)
+{
+    static constexpr double kShare = 0.35;
+    const auto mixed = [](int accent, int surface) { return qRound(kShare * accent + (1 - kShare) * surface); };
+    return {mixed(theme.accent.red(), theme.surface.red()), mixed(theme.accent.green(), theme.surface.green()),
+            mixed(theme.accent.blue(), theme.surface.blue())};
+}
+
 static QString styleSheetOf(const Theme &theme)
 {
     static constexpr auto kSheet = R"(
@@ -130,7 +139,7 @@ QTabBar::close-button:hover { background: @border; }
 QTabWidget::pane { border: none; }
 QProgressBar { min-height: 14px; max-height: 14px; border: 1px solid @border; border-radius: 4px;
     background: @surface; text-align: center; }
-QProgressBar::chunk { background: @accent; border-radius: 3px; }
+QProgressBar::chunk { background: @progress; border-radius: 3px; }
 QStatusBar { border-top: 1px solid @border; }
 QStatusBar::item { border: none; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
@@ -142,9 +151,9 @@ QMenu::icon { padding-left: 4px; }
 QToolTip { padding: 4px; border: 1px solid @border; background: @surface; color: @text; }
 )"_L1;
     const std::pair<QLatin1StringView, QColor> names[] = {
-        {"@border"_L1, theme.border}, {"@surface"_L1, theme.surface},   {"@accent"_L1, theme.accent},
-        {"@window"_L1, theme.window}, {"@onAccent"_L1, theme.onAccent}, {"@text"_L1, theme.text},
-        {"@dim"_L1, theme.dim}};
+        {"@border"_L1, theme.border}, {"@surface"_L1, theme.surface},         {"@accent"_L1, theme.accent},
+        {"@window"_L1, theme.window}, {"@onAccent"_L1, theme.onAccent},       {"@text"_L1, theme.text},
+        {"@dim"_L1, theme.dim},       {"@progress"_L1, progressColour(theme)}};
     QString sheet = kSheet;
     for (const auto &[name, colour] : names)
         sheet.replace(name, colour.name());
