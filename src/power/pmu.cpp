@@ -47,6 +47,7 @@ static QString element(QLatin1StringView array, qsizetype index)
 
 PMU::PMU(Session &session, QWidget *parent) : RailForm(std::make_unique<PMUScreen>(session), parent), m_table(kTable)
 {
+    m_btVCore = named(new QPushButton, u"btVCore"_s);
     for (int i = 0; i < 2; ++i)
         m_botao[static_cast<std::size_t>(i)] = named(new QPushButton, u"Botao%1"_s.arg(i + 1));
     m_btExecutaLeitura = readButton(u"btExecutaLeitura"_s);
@@ -67,7 +68,7 @@ QWidget *PMU::controls()
     m_porcTolerancia->setValidator(new QRegularExpressionValidator(kPercent, m_porcTolerancia));
     auto *frame = named(new QWidget, u"FrameControle"_s);
     auto *row = controlRow(frame);
-    row->addWidget(kinds({m_botao[0], m_botao[1]}, u"FrameSelecoes"_s));
+    row->addWidget(kinds({m_btVCore, m_botao[0], m_botao[1]}, u"FrameSelecoes"_s));
     row->addSpacing(Spacing::control);
     row->addWidget(m_lbTolerancia);
     row->addWidget(m_porcTolerancia);
@@ -142,6 +143,7 @@ void PMU::addLine()
 void PMU::connectControls()
 {
     auto &pmu = static_cast<PMUScreen &>(screen());
+    connect(m_btVCore, &QPushButton::clicked, &pmu, &PMUScreen::btVCore_Click);
     connect(m_botao[0], &QPushButton::clicked, &pmu, &PMUScreen::Botao1_Click);
     connect(m_botao[1], &QPushButton::clicked, &pmu, &PMUScreen::Botao2_Click);
     connect(m_btExecutaLeitura, &QPushButton::clicked, &pmu, &PMUScreen::btExecutaLeitura_Click);
@@ -153,6 +155,7 @@ void PMU::connectControls()
 void PMU::Traducao_Form()
 {
     RailForm::Traducao_Form();
+    m_btVCore->setAccessibleName(text(u"VCore"));
     m_botao[0]->setAccessibleName(text(u"Bucks"));
     m_botao[1]->setAccessibleName(text(u"LDOs"));
     setDecimalsCaption(text(u"Decimais") + ": ( V / mA )"_L1);

@@ -38,6 +38,7 @@ private:
     void connectControls();
     void addLine();
 
+    QPushButton *m_btVCore;
     std::array<QPushButton *, 2> m_botao;
     QPushButton *m_btExecutaLeitura;
     QLabel *m_lbTolerancia;

@@ -16,8 +16,7 @@ static constexpr double kUsualTolerance = 10;
 /// The graphics processor is off in diagnostics mode: its supplies show nothing.
 static constexpr std::array kGraphics = {"Buck1"_L1, "Buck8"_L1, "mABuck1"_L1, "mABuck8"_L1};
 
-/// No button leads to the first kind: it is what the panel starts with.
-static constexpr std::array kKinds = {RailKind{0, {}, u"VCore"}, RailKind{2, u"Botao1", u"Bucks"},
+static constexpr std::array kKinds = {RailKind{0, u"btVCore", u"VCore"}, RailKind{2, u"Botao1", u"Bucks"},
                                       RailKind{1, u"Botao2", u"LDOs"}};
 static constexpr std::array kResting = {"FrameControle"_L1};
 

@@ -10,8 +10,9 @@ class PMUScreen : public RailScreen
 public:
     explicit PMUScreen(Session &session, QObject *parent = nullptr);
 
-    void Botao1_Click() { chooseKind(2); } ///< the bucks
-    void Botao2_Click() { chooseKind(1); } ///< the LDOs
+    void btVCore_Click() { chooseKind(0); } ///< the core rails, which the panel starts with
+    void Botao1_Click() { chooseKind(2); }  ///< the bucks
+    void Botao2_Click() { chooseKind(1); }  ///< the LDOs
     void btExecutaLeitura_Click() { PrePesquisa(); }
     /// The tolerance was typed on: the last reply is judged anew.
     void PorcTolerancia_Change(const QString &text);

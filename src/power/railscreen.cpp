@@ -9,6 +9,7 @@ using namespace std::chrono_literals;
 
 static constexpr auto kBlinkInterval = 500ms;
 static constexpr int kBlinks = 10; ///< five seconds, then the note stays
+static constexpr qsizetype kNamed = 3;
 
 RailScreen::RailScreen(Session &session, const RailScreenTraits &traits, QObject *parent)
     : ReadingScreen(session, traits.name, traits.code, kSelfTest, parent),
@@ -129,21 +130,37 @@ qsizetype RailScreen::faultsOf(const RailKind &kind) const
     return std::ranges::count(m_readings.value(kind.kind).judgements, Verdict::Fail, &Judgement::verdict);
 }
 
-qsizetype RailScreen::hiddenFaultsOf(const RailKind &kind) const
+QStringList RailScreen::hiddenNets(const RailKind &kind, Verdict verdict) const
 {
     const QList<Judgement> &seen = m_front.panel.judgements;
-    return std::ranges::count_if(m_readings.value(kind.kind).judgements, [&seen](const Judgement &judgement) {
-        return judgement.verdict == Verdict::Fail &&
-               std::ranges::find(seen, judgement.what, &Judgement::what) == seen.end();
-    });
+    QStringList nets;
+    for (const Judgement &judgement : m_readings.value(kind.kind).judgements)
+        if (judgement.verdict == verdict && std::ranges::find(seen, judgement.what, &Judgement::what) == seen.end())
+            nets.append(judgement.what);
+    return nets;
+}
+
+/// The first few by name, of the others how many there are.
+static QString someOf(const QStringList &nets)
+{
+    const qsizetype more = nets.size() - kNamed;
+    const QString named = nets.first(std::min(nets.size(), kNamed)).join(", "_L1);
+    return more > 0 ? u"%1, +%2"_s.arg(named).arg(more) : named;
 }
 
 QString RailScreen::faultsElsewhere() const
 {
+    static constexpr std::pair<Verdict, QStringView> kTold[] = {{Verdict::Fail, u"%1 com falha"},
+                                                                {Verdict::Incomplete, u"%1 sem medição"}};
     QStringList texts;
-    for (const RailKind &kind : m_traits.kinds)
-        if (const qsizetype faults = hiddenFaultsOf(kind); faults > 0)
-            texts.append(caption(kind.caption) + ": "_L1 + caption(u"%1 com falha").arg(faults));
+    for (const RailKind &kind : m_traits.kinds) {
+        QStringList parts;
+        for (const auto &[verdict, key] : kTold)
+            if (const QStringList nets = hiddenNets(kind, verdict); !nets.isEmpty())
+                parts.append(u"%1 (%2)"_s.arg(caption(key).arg(nets.size()), someOf(nets)));
+        if (!parts.isEmpty())
+            texts.append(caption(kind.caption) + ": "_L1 + parts.join("; "_L1));
+    }
     return texts.join(u"   "_s);
 }
 

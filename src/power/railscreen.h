@@ -20,7 +20,7 @@ public:
     void goTo(const QString &what) override;
 
     int kind() const { return m_kind; }
-    /// What a good verdict in front must not hide: the faults of what is not shown. Empty: there are none.
+    /// What a good verdict in front must not hide: the faults and the gaps of what is not shown. Empty: there are none.
     QString faultsElsewhere() const;
     void chooseKind(int kind);
     /// Texts of `ComboDecimais` and `ComboDecimaisAmp`; others are not taken.
@@ -67,7 +67,7 @@ private:
     void keepDecimals(Combo which, const QString &text);
     void blinkNote();
     qsizetype faultsOf(const RailKind &kind) const;
-    qsizetype hiddenFaultsOf(const RailKind &kind) const;
+    QStringList hiddenNets(const RailKind &kind, Verdict verdict) const;
     QString kindText(const RailKind &kind) const;
     Field readButton() const;
 

@@ -210,7 +210,7 @@ private slots:
         bench.screen->cbICs_Click(3);
         QCOMPARE(chips(), QSet<QString>({u"GPU"_s}));
         QCOMPARE(bench.screen->panel().verdict, Verdict::None);
-        QCOMPARE(bench.screen->faultsElsewhere(), u"VCore: 1 com falha"_s); // hidden, not forgotten
+        QCOMPARE(bench.screen->faultsElsewhere(), u"VCore: 1 com falha (PP1V8_S2)"_s); // hidden, not forgotten
         QCOMPARE(bench.stored(u"IP X"_s, 0, u"Buck3"_s).leitura, u"1.200 V"_s);
 
         bench.screen->btGravar_Click(1);
