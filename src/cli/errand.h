@@ -25,6 +25,7 @@ protected:
     Port &port() { return m_bench.port(); }
     const CommonOptions &options() const { return m_options; }
     Language language() { return session().language(); }
+    void setRemedy(const Notice &remedy) { m_bench.boxes().setRemedy(remedy); }
     const QList<Notice> &messages() { return m_bench.boxes().shown(); }
 
     /// The phone is connected; its model is known if it could be told.

@@ -42,7 +42,7 @@ static constexpr std::array kPmuKinds = {"0", "1", "2"};
 static std::string notAPercentage(const std::string &text)
 {
     bool isNumber = false;
-    const double percent = QString::fromStdString(text).toDouble(&isNumber);
+    const double percent = QString::fromStdString(text).replace(u',', u'.').toDouble(&isNumber);
     return isNumber && std::isfinite(percent) && percent > 0 ? "" : text + " is no number above 0";
 }
 

@@ -29,6 +29,9 @@ void ReadingErrand::begin()
 {
     m_screen->open();
     giveOptions(*m_screen, m_screenOptions);
+    const ScreenCommand &command = *screenByCommand(m_screenOptions.screen);
+    if (const auto instead = command.instead ? command.instead(session().model()) : ""_L1; !instead.isEmpty())
+        setRemedy({u"USE_COMMAND"_s, {instead, session().model()}});
     m_screen->read();
 }
 

@@ -56,6 +56,8 @@ struct ScreenCommand
     std::unique_ptr<Screen> (*make)(Session &session);
     std::span<const ScreenOption> options = {};
     Reported reported = Reported::No;
+    /// The command for a model that this screen refuses; empty: it does not.
+    QLatin1StringView (*instead)(const QString &model) = nullptr;
 };
 
 template <typename T>

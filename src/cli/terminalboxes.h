@@ -2,6 +2,8 @@
 
 #include "boxes.h"
 
+#include <optional>
+
 /// Messages as lines on standard error; questions answer themselves with Yes. Both are kept for the JSON.
 class TerminalBoxes : public Boxes
 {
@@ -9,6 +11,8 @@ public:
     explicit TerminalBoxes(Language language) : m_language(language) {}
 
     void setLanguage(Language language) { m_language = language; }
+    /// What may help with every box from now on.
+    void setRemedy(const Notice &remedy) { m_remedy = remedy; }
     void message(const Trouble &trouble) override;
     void ask(const Question &question, std::function<void(Answer)> answered) override;
     void input(const Question &question, const QString &proposal,
@@ -17,6 +21,9 @@ public:
     const QList<Notice> &shown() const { return m_shown; }
 
 private:
+    void tell(Trouble trouble);
+
     Language m_language;
     QList<Notice> m_shown;
+    std::optional<Notice> m_remedy;
 };

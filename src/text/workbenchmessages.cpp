@@ -175,6 +175,9 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      {u"Recusado: o modelo não é conhecido. Selecione o modelo do dispositivo.",
       u"Refused: the model is not known. Select the device model.",
       u"Rechazado: el modelo no es conocido. Seleccione el modelo del dispositivo."}},
+    {u"USE_COMMAND", // %1 of this program, %2 the model
+     Information,
+     {u"Para %2 use o comando \"%1\".", u"For %2 use the command \"%1\".", u"Para %2 use el comando \"%1\"."}},
     {u"REFUSED_NO_READING",
      Information,
      {u"Recusado: ainda não há leitura. Primeiro execute uma leitura.",

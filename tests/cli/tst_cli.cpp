@@ -160,7 +160,7 @@ private slots:
         QTest::newRow("the chip without the fault") << u"judge vcore --ic GPU"_s + everyOutput << 0 << QString();
         QTest::newRow("at the tolerance") << u"judge pmu --kind 2"_s + everyOutput << 1 << u"PP1V8_SDRAM"_s;
         QTest::newRow("a gap inside the tolerance")
-            << u"judge pmu --kind 2 --tolerance 10.1"_s + everyOutput << 5 << u"PP1V1_SDRAM"_s;
+            << u"judge pmu --kind 2 --tolerance 10,1"_s + everyOutput << 5 << u"PP1V1_SDRAM"_s;
         QTest::newRow("a buck") << u"run bucktest --buck 3 --port \"sim:IP 7,buck3=1500\""_s << 1 << u"buck3"_s;
         QTest::newRow("all bucks") << u"run bucktest --all --port \"sim:IP 7,buck8=timeout\""_s << 5 << u"buck8"_s;
         QTest::newRow("port controller") << u"run tristar --port \"sim:IP 7,ildo7=2\""_s << 1
@@ -223,6 +223,10 @@ private slots:
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.json().value(u"verdict"_s).toString(), u"none"_s);
         QCOMPARE(outcome.json().value(u"messages"_s).toArray(), QJsonArray{u"SOMENTE_X"_s});
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QVERIFY(outcome.errors.contains("\"chestnut\""));
+        QVERIFY(atHome(u"run chestnut --json --port \"sim:IP X\""_s).errors.contains("\"acorn\""));
+        QCOMPARE(atHome(u"run acorn --json --port \"sim:IP X\""_s).errors, QByteArray());
     }
 
     void aVerdictThatCouldNotBeWrittenIsNoPass()
