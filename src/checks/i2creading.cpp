@@ -182,10 +182,10 @@ QString busesOwed(const I2CInput &input)
 
 QString toldOfRun(const Panel &panel, const QString &failures, const I2CInput &input)
 {
-    if (input.run == BusRun::Cancelled)
-        return QStringList{failures, caption(u"CANCELADO_I2C", input.language).arg(busesOwed(input))}
-            .join("\r\n\r\n"_L1)
-            .trimmed();
+    if (input.run == BusRun::Cancelled) {
+        const QString owed = caption(u"CANCELADO_I2C", input.language).arg(busesOwed(input));
+        return failures.isEmpty() ? owed : failures + "\r\n\r\n"_L1 + owed;
+    }
     if (input.run != BusRun::Finished)
         return failures;
     if (panel.verdict == Verdict::Pass)

@@ -102,10 +102,11 @@ void tellAnswer(Panel &panel, const NandInput &input)
 {
     const QString line = tellingLine(input.reply);
     const bool isAskedFor = input.test == NandTest::Id || input.test == NandTest::Info;
-    if (const qsizetype colon = line.indexOf(u':'); isAskedFor && colon > 0)
+    if (const qsizetype colon = line.indexOf(u':'); isAskedFor && colon > 0) {
         addFact(panel, {.what = caption(nandCaption(input.test), input.language),
                         .reading = line.sliced(colon + 1).trimmed(),
                         .line = line});
+    }
 }
 
 void judge(Panel &panel, const NandInput &input, Answer answer)
