@@ -140,6 +140,11 @@ QTabWidget::pane { border: none; }
 QProgressBar { min-height: 14px; max-height: 14px; border: 1px solid @border; border-radius: 4px;
     background: @surface; text-align: center; }
 QProgressBar::chunk { background: @progress; border-radius: 3px; }
+QSlider { min-height: 24px; }
+QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: @border; }
+QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px; background: @accent; }
+QSlider::handle:horizontal:focus { border: 2px solid @text; }
+QSlider::handle:horizontal:disabled { background: @border; }
 QStatusBar { border-top: 1px solid @border; }
 QStatusBar::item { border: none; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
