@@ -27,23 +27,22 @@ constexpr Property kGauge[] = {
     {"temperature"_L1, "28C"_L1, "28C"_L1},
 };
 
-/// Their gauges do not tell the present capacity.
-bool isOldest(const QString &model)
-{
-    return model == "IP 6"_L1 || model == "IP 6 Plus"_L1;
-}
-
 QStringList lines(const PhoneProfile &profile, std::span<const Property> properties)
 {
     QStringList told;
     for (const Property &property : properties) {
-        if (property.key != kNominal || !isOldest(profile.model))
+        if (property.key != kNominal || tellsCapacity(profile.model))
             told.append(u"%1: \"%2\""_s.arg(property.key, profile.wornBattery ? property.worn : property.healthy));
     }
     return told;
 }
 
 } // namespace
+
+bool tellsCapacity(const QString &model)
+{
+    return model != "IP 6"_L1 && model != "IP 6 Plus"_L1;
+}
 
 QStringList batteryLines(const PhoneProfile &profile)
 {

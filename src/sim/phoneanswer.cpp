@@ -90,10 +90,9 @@ QStringList modelLines(const PhoneProfile &profile)
     return {profile.modelNumber};
 }
 
-/// A number that no phone has.
 QStringList serialLines(const PhoneProfile &profile)
 {
-    return {u"SIM0"_s + scatteredDigits(profile.model, u"serial")};
+    return {profile.serial.isEmpty() ? u"Not Found!"_s : profile.serial};
 }
 
 struct Command

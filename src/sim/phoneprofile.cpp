@@ -2,9 +2,11 @@
 
 #include "checkanswer.h"
 #include "chipoutputs.h"
+#include "gaugeanswer.h"
 #include "healthyrails.h"
 #include "models.h"
 #include "pmuoutputs.h"
+#include "scatter.h"
 
 #include <QRegularExpression>
 
@@ -44,6 +46,12 @@ struct FaultRow
 bool setModelNumber(PhoneProfile &profile, const QString &value)
 {
     profile.modelNumber = value;
+    return !value.isEmpty();
+}
+
+bool setSerial(PhoneProfile &profile, const QString &value)
+{
+    profile.serial = value == "none"_L1 ? QString() : value.toUpper();
     return !value.isEmpty();
 }
 
@@ -92,13 +100,10 @@ bool setPortChip(PhoneProfile &profile, const QString &value)
 }
 
 constexpr FaultRow kFaults[] = {
-    {"model"_L1, "model=TEXT"_L1, setModelNumber},
-    {"prompt"_L1, "prompt=split"_L1, setPrompt},
-    {"drop"_L1, "drop@BYTES"_L1, setDrop},
-    {"silent"_L1, "silent"_L1, setSilent},
-    {"crlf"_L1, "crlf"_L1, setCrlf},
-    {"garbage"_L1, "garbage"_L1, setGarbage},
-    {"battery"_L1, "battery=worn"_L1, setBattery},
+    {"model"_L1, "model=TEXT"_L1, setModelNumber}, {"serial"_L1, "serial=TEXT|none"_L1, setSerial},
+    {"prompt"_L1, "prompt=split"_L1, setPrompt},   {"drop"_L1, "drop@BYTES"_L1, setDrop},
+    {"silent"_L1, "silent"_L1, setSilent},         {"crlf"_L1, "crlf"_L1, setCrlf},
+    {"garbage"_L1, "garbage"_L1, setGarbage},      {"battery"_L1, "battery=worn"_L1, setBattery},
     {"tristar"_L1, "tristar=off"_L1, setPortChip},
 };
 
@@ -192,6 +197,7 @@ PhoneProfile healthy(const QString &model)
     profile.model = model;
     profile.rails = healthyRails(model);
     profile.rails.insert(healthyChips(model));
+    profile.serial = "SIM0"_L1 + scatteredDigits(model, u"serial"); // a number that no phone has
     const auto row = std::ranges::find(kNumbers, model, &ModelNumber::model);
     profile.modelNumber = row == std::end(kNumbers) ? QString() : QString(row->number);
     return profile;
@@ -218,5 +224,7 @@ Result<PhoneProfile> profileFor(const QString &text)
         if (!apply(profile, faultFrom(part.trimmed())))
             return unknown(part.trimmed(), knownFaults(profile));
     }
+    if (profile.wornBattery && !tellsCapacity(model))
+        return Trouble{{u"SIM_NO_CAPACITY"_s, {model}}};
     return profile;
 }

@@ -13,6 +13,7 @@ struct PhoneProfile
 {
     QString model;       ///< one of the nine names
     QString modelNumber; ///< what it says of itself ("A1660"), or a whole other answer to the model query
+    QString serial;      ///< of its board; empty: it tells none
     QMap<QString, QString>
         rails; ///< value token by output label ("BIST ldo2:"), "timeout" among them; no entry: no line
     bool splitPrompt = false;

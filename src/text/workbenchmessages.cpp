@@ -97,6 +97,11 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      Information,
      {u"Valor não aceito para %1: %2\nAceito: %3", u"Value not accepted for %1: %2\nAccepted: %3",
       u"Valor no aceptado para %1: %2\nAceptado: %3"}},
+    {u"SETTING_NO_FILE",
+     Information,
+     {u"Arquivo não encontrado: %2\nAceito para %1: uma imagem %3",
+      u"File not found: %2\nAccepted for %1: a picture, %3",
+      u"Archivo no encontrado: %2\nAceptado para %1: una imagen %3"}},
 
     // What may mend a port that does not open
     {u"REMEDY_GROUP",
@@ -274,6 +279,11 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
       u"No hay pantalla gráfica: la ventana no puede abrirse. Use el programa de terminal, por ejemplo:\n"
       u"prelt run buckldo --port \"sim:IP 6s\""}},
     // %1 the part that is not known, %2 what is
+    {u"SIM_NO_CAPACITY",
+     Information,
+     {u"battery=worn não é possível no %1: o medidor da bateria dele não informa a capacidade atual.",
+      u"battery=worn is not possible on the %1: its battery gauge does not tell the present capacity.",
+      u"battery=worn no es posible en el %1: el medidor de su batería no informa la capacidad actual."}},
     {u"SIM_UNKNOWN",
      Information,
      {u"Telefone simulado não reconhecido: %1\nInforme um modelo e falhas, por exemplo \"sim:IP 7,ldo2=1200\".\n"

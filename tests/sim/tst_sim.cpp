@@ -202,6 +202,13 @@ private slots:
         QTest::newRow("IP 7,model=") << u"model="_s << u"model=TEXT"_s;
     }
 
+    void aFaultThatTheGaugeCannotTell()
+    {
+        const Result<PhoneProfile> result = profileFor(u"IP 6 Plus,battery=worn"_s);
+        QVERIFY(!result);
+        QCOMPARE(result.trouble().what.key, u"SIM_NO_CAPACITY"_s);
+    }
+
     void whatIsNotKnown()
     {
         QFETCH(QString, part);
