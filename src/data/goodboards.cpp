@@ -47,44 +47,44 @@ static Result<Done> writeReference(const Store &store, const QString &model, con
     return execute(store, kAddTaken, values);
 }
 
-static Result<Done> writeReferences(const Store &store, const QString &model, const QList<TakenReference> &references)
+static Result<Done> dropBoard(const Store &store, const QString &model, const QString &board)
 {
-    for (const TakenReference &reference : references)
-        if (const Result<Done> written = writeReference(store, model, reference); !written)
+    return execute(store, kDropGoodBoard, {{u":model"_s, model}, {u":board"_s, board}});
+}
+
+static Result<Done> addReading(const Store &store, const QString &model, const GoodReading &reading)
+{
+    return execute(store, kAddGoodReading,
+                   {{u":model"_s, model},
+                    {u":kind"_s, reading.tipo},
+                    {u":output"_s, reading.orig},
+                    {u":board"_s, reading.board},
+                    {u":volts"_s, QString::number(reading.volts, 'f', kVoltDecimals)}});
+}
+
+/// Writes one after the other, up to the first that fails.
+template <typename Item, typename Write>
+static Result<Done> writeEach(const QList<Item> &items, Write write)
+{
+    for (const Item &item : items)
+        if (const Result<Done> written = write(item); !written)
             return written;
     return Done{};
 }
 
-Result<Done> addGoodBoard(Store &store, const QString &model, const QList<GoodReading> &readings,
-                          const QList<TakenReference> &references)
+Result<Done> changeGoodBoards(Store &store, const QString &model, const BoardChange &change)
 {
     Result<Transaction> transaction = Transaction::begin(store);
     if (!transaction)
         return transaction.trouble();
-    for (const GoodReading &reading : readings) {
-        const QVariantMap values{{u":model"_s, model},
-                                 {u":kind"_s, reading.tipo},
-                                 {u":output"_s, reading.orig},
-                                 {u":board"_s, reading.board},
-                                 {u":volts"_s, QString::number(reading.volts, 'f', kVoltDecimals)}};
-        if (const Result<Done> added = execute(store, kAddGoodReading, values); !added)
-            return added;
-    }
-    if (const Result<Done> written = writeReferences(store, model, references); !written)
-        return written;
-    return transaction->commit();
-}
-
-Result<Done> dropGoodBoard(Store &store, const QString &model, const QString &board,
-                           const QList<TakenReference> &references)
-{
-    Result<Transaction> transaction = Transaction::begin(store);
-    if (!transaction)
-        return transaction.trouble();
-    if (const Result<Done> dropped = execute(store, kDropGoodBoard, {{u":model"_s, model}, {u":board"_s, board}});
-        !dropped)
+    const auto by = [&](auto write) {
+        return [&store, &model, write](const auto &item) { return write(store, model, item); };
+    };
+    if (const auto dropped = writeEach(change.dropped, by(dropBoard)); !dropped)
         return dropped;
-    if (const Result<Done> written = writeReferences(store, model, references); !written)
+    if (const auto added = writeEach(change.added, by(addReading)); !added)
+        return added;
+    if (const auto written = writeEach(change.references, by(writeReference)); !written)
         return written;
     return transaction->commit();
 }

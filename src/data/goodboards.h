@@ -10,7 +10,8 @@ struct GoodReading
 {
     int tipo = 0;
     QString orig;
-    QString board; ///< when it was taken, "2026-11-21 15:20:11.042": a board has no other name
+    /// When it was taken, then its serial number where the phone told one: "2026-11-21 15:20:11.042 C39XK1ABCDEF".
+    QString board;
     double volts = 0;
 
     friend bool operator==(const GoodReading &, const GoodReading &) = default;
@@ -32,11 +33,14 @@ struct TakenReference
 /// this was kept has none.
 Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model);
 
-/// Keeps what one board read, and writes the references that all boards give now; all or nothing. A reference that was
-/// not taken from boards is never touched.
-Result<Done> addGoodBoard(Store &store, const QString &model, const QList<GoodReading> &readings,
-                          const QList<TakenReference> &references);
+/// What becomes of the boards of a model.
+struct BoardChange
+{
+    QStringList dropped = {};
+    QList<GoodReading> added = {};
+    QList<TakenReference> references = {}; ///< that the boards give afterwards
+};
 
-/// Forgets a board, and writes the references that the remaining ones give; all or nothing.
-Result<Done> dropGoodBoard(Store &store, const QString &model, const QString &board,
-                           const QList<TakenReference> &references);
+/// Keeps and forgets boards, and writes the references that they give then; all or nothing. A reference that was not
+/// taken from boards is never touched.
+Result<Done> changeGoodBoards(Store &store, const QString &model, const BoardChange &change);

@@ -24,6 +24,7 @@ struct Boards
 
     bool agree() const { return count > 0 && spread < kMostSpread; }
     QString refV() const { return agree() ? QString::number(median, 'f', 3) : QString(); }
+    bool change(const RailRow &row) const { return refV() != row.refV; }
 };
 
 bool wantsReference(const RailRow &row)
@@ -95,25 +96,34 @@ QString outcome(const RailRow &row, const Boards &boards, Language language)
         return {};
     if (!boards.agree())
         return caption(u"varia demais", language);
-    return boards.refV() == row.refV ? QString() : voltText(boards.median);
+    return boards.change(row) ? voltText(boards.median) : QString();
 }
 
-Row gridRow(const RailRow &rail, const ReferenciasReading &reading, const ReferenciasInput &input)
+/// What a reference of these boards says of itself, before the date.
+QString sourceOf(const Boards &boards)
+{
+    return u"recorded here, n = %1, Δ %2, "_s.arg(boards.count).arg(spreadText(boards));
+}
+
+void addRow(ReferenciasReading &reading, const RailRow &rail, const ReferenciasInput &input)
 {
     const auto here = std::ranges::find_if(reading.here, [&](const GoodReading &of) { return isOf(of, rail); });
     const Boards boards = boardsOf(rail, input.earlier + reading.here);
+    const bool isRead = here != reading.here.end();
+    reading.outputs += isRead ? 1 : 0;
+    reading.changes += boards.change(rail) ? 1 : 0;
     const bool isAny = boards.count > 0;
-    return {.cells = {{u"Orig"_s, rail.orig},
-                      {u"Malha"_s, rail.malha},
-                      {u"Ci"_s, rail.ci},
-                      {u"Leitura"_s, here == reading.here.end() ? QString() : voltText(here->volts)},
-                      {u"Placas"_s, QString::number(boards.count)},
-                      {u"Mediana"_s, isAny ? voltText(boards.median) : QString()},
-                      {u"Dispersao"_s, isAny ? spreadText(boards) : QString()},
-                      {u"REF"_s, rail.ref},
-                      {u"Nova"_s, outcome(rail, boards, input.language)}},
-            .source = rail.source,
-            .confidence = rail.confidence};
+    reading.panel.rows.append(Row{.cells = {{u"Orig"_s, rail.orig},
+                                            {u"Malha"_s, rail.malha},
+                                            {u"Ci"_s, rail.ci},
+                                            {u"Leitura"_s, isRead ? voltText(here->volts) : QString()},
+                                            {u"Placas"_s, QString::number(boards.count)},
+                                            {u"Mediana"_s, isAny ? voltText(boards.median) : QString()},
+                                            {u"Dispersao"_s, isAny ? spreadText(boards) : QString()},
+                                            {u"REF"_s, rail.ref},
+                                            {u"Nova"_s, outcome(rail, boards, input.language)}},
+                                  .source = rail.source,
+                                  .confidence = rail.confidence});
 }
 
 } // namespace
@@ -131,7 +141,7 @@ ReferenciasReading readReferencias(const ReferenciasInput &input)
         if (!wantsReference(row) || shown.contains(name))
             continue;
         shown.insert(name);
-        reading.panel.rows.append(gridRow(row, reading, input));
+        addRow(reading, row, input);
     }
     reading.panel.screen = u"Referencias"_s;
     reading.panel.title = caption(u"Placas de referência", input.language) + " - Tavimo Prelt - "_L1 + input.model;
@@ -145,10 +155,10 @@ QList<TakenReference> referencesFrom(const QList<RailRow> &rows, const QList<Goo
         if (!wantsReference(row))
             continue;
         const Boards boards = boardsOf(row, readings);
-        const QString source =
-            u"recorded here, n = %1, Δ %2, %3"_s.arg(boards.count).arg(spreadText(boards), date.toString(Qt::ISODate));
-        if (boards.refV() != row.refV)
-            references.append({row.id, row.tipo, row.orig, boards.refV(), source});
+        const QString source = sourceOf(boards);
+        const bool isStale = !row.refV.isEmpty() && !row.source.startsWith(source);
+        if (boards.change(row) || isStale)
+            references.append({row.id, row.tipo, row.orig, boards.refV(), source + date.toString(Qt::ISODate)});
     }
     return references;
 }

@@ -1,6 +1,8 @@
 #include "referenciasscreen.h"
 
+#include "catalogue.h"
 #include "selftest.h"
+#include "serialnumber.h"
 
 #include <QDateTime>
 
@@ -13,10 +15,17 @@ namespace {
 constexpr auto kCode = "22"_L1;
 constexpr int kKinds = 3;
 
+/// Behind the day and the time.
+QString serialOf(const QString &board)
+{
+    return board.section(u' ', 2);
+}
+
 /// A board's name as a person reads it.
 QString shownName(const QString &board)
 {
-    return board.section(u'.', 0, 0);
+    const QString serial = serialOf(board);
+    return board.section(u'.', 0, 0) + (serial.isEmpty() ? QString() : u", "_s + serial);
 }
 
 /// What the store knows of a model.
@@ -51,8 +60,16 @@ ReferenciasScreen::ReferenciasScreen(Session &session, QObject *parent)
     connect(&session, &Session::languageChanged, this, &ReferenciasScreen::rebuild);
     connect(&session, &Session::readingsCleared, this, [this] {
         forgetReading();
+        readingBegan();
         load();
     });
+}
+
+void ReferenciasScreen::readingBegan()
+{
+    m_board = Board::Open;
+    m_serial.clear();
+    m_isAskingSerial = false;
 }
 
 void ReferenciasScreen::load()
@@ -74,13 +91,39 @@ void ReferenciasScreen::load()
         });
 }
 
+/// What a board that is taken again read before does not count beside what it reads now.
+ReferenciasInput ReferenciasScreen::input() const
+{
+    ReferenciasInput input = m_input;
+    const bool isOpen = m_board == Board::Open;
+    input.reply = isOpen ? txtDados() : QString();
+    input.earlier = isOpen ? earlierWithout(sameBoards()) : m_input.earlier;
+    input.model = session().model();
+    input.language = session().language();
+    return input;
+}
+
 void ReferenciasScreen::rebuild()
 {
-    m_input.reply = m_board == Board::Taken ? QString() : txtDados();
-    m_input.model = session().model();
-    m_input.language = session().language();
-    m_read = readReferencias(m_input);
+    m_read = readReferencias(input());
     show(m_read.panel, state());
+}
+
+/// The boards that were taken from the phone that was read.
+QStringList ReferenciasScreen::sameBoards() const
+{
+    QStringList boards;
+    for (const GoodReading &reading : m_input.earlier)
+        if (!m_serial.isEmpty() && serialOf(reading.board) == m_serial && !boards.contains(reading.board))
+            boards.append(reading.board);
+    return boards;
+}
+
+QList<GoodReading> ReferenciasScreen::earlierWithout(const QStringList &boards) const
+{
+    QList<GoodReading> remaining = m_input.earlier;
+    remaining.removeIf([&boards](const GoodReading &reading) { return boards.contains(reading.board); });
+    return remaining;
 }
 
 QString ReferenciasScreen::lastBoard() const
@@ -91,11 +134,12 @@ QString ReferenciasScreen::lastBoard() const
 QMap<QString, Field> ReferenciasScreen::state() const
 {
     const QString last = lastBoard();
+    const bool isBusy = isReading() || m_isAskingSerial;
     const QString read = caption(isReading() ? u"Processando comando" : u"Executar Leitura");
-    return {{u"btExecutaLeitura"_s, {.text = isReading() ? read : read + "  F5"_L1, .enabled = !isReading()}},
-            {u"btTomar"_s, {.enabled = !isReading() && !m_read.here.isEmpty()}},
-            {u"btDesfazer"_s, {.enabled = !isReading() && !last.isEmpty()}},
-            {u"FrameVCore"_s, {.visible = isReading()}},
+    return {{u"btExecutaLeitura"_s, {.text = isReading() ? read : read + "  F5"_L1, .enabled = !isBusy}},
+            {u"btTomar"_s, {.enabled = !isBusy && !m_read.here.isEmpty()}},
+            {u"btDesfazer"_s, {.enabled = !isBusy && !last.isEmpty()}},
+            {u"FrameVCore"_s, {.visible = isBusy}},
             {u"lbUltima"_s,
              {.text = last.isEmpty() ? caption(u"Nenhuma placa tomada ainda")
                                      : caption(u"Última placa: %1").arg(shownName(last))}}};
@@ -116,29 +160,65 @@ bool ReferenciasScreen::mayTake()
 
 void ReferenciasScreen::btTomar_Click()
 {
-    if (!mayTake())
+    if (m_isAskingSerial || !mayTake())
         return;
-    const QList<GoodReading> readings = m_read.here;
-    const auto changes = referencesFrom(m_input.rows, m_input.earlier + readings, QDate::currentDate()).size();
-    QString text = caption(u"TOMAR_REFERENCIA").arg(session().model()).arg(readings.size()).arg(changes);
+    if (!session().isConnected())
+        return propose();
+    m_isAskingSerial = session().request(kCode, kSerialCommand);
+    rebuild();
+}
+
+void ReferenciasScreen::take(const Delivery &delivery)
+{
+    if (!std::exchange(m_isAskingSerial, false))
+        return ReadingScreen::take(delivery);
+    m_serial = delivery.cut ? QString() : serialIn(delivery.reply);
+    rebuild();
+    if (mayTake())
+        propose();
+}
+
+void ReferenciasScreen::release(Release why, const Delivery &partial)
+{
+    if (!std::exchange(m_isAskingSerial, false))
+        return ReadingScreen::release(why, partial);
+    rebuild();
+}
+
+QString ReferenciasScreen::proposal() const
+{
+    const Language language = session().language();
+    const QStringList same = sameBoards();
+    QStringList parts{caption(u"TOMAR_REFERENCIA")
+                          .arg(session().model(), countCaption(u"%1 saídas", m_read.outputs, language),
+                               countCaption(u"%1 referências mudam", m_read.changes, language))};
+    if (m_serial.isEmpty())
+        parts.append(caption(u"TOMAR_SEM_SERIE"));
+    else if (!same.isEmpty())
+        parts.append(caption(u"TOMAR_DE_NOVO").arg(shownName(same.constLast())));
     if (m_read.faults > 0)
-        text += u"\n\n"_s + caption(u"TOMAR_COM_FALHAS").arg(m_read.faults);
-    session().boxes().ask({caption(u"Tomar como referência"), text, Question::Choices::YesNo},
-                          [this, readings](Answer answer) {
+        parts.append(countCaption(u"TOMAR_COM_FALHAS", m_read.faults, language));
+    return parts.join("\n\n"_L1);
+}
+
+void ReferenciasScreen::propose()
+{
+    session().boxes().ask({caption(u"Tomar como referência"), proposal(), Question::Choices::YesNo},
+                          [this, readings = m_read.here](Answer answer) {
                               if (answer == Answer::Yes)
-                                  take(readings);
+                                  keepBoard(readings);
                           });
 }
 
-void ReferenciasScreen::take(const QList<GoodReading> &readings)
+void ReferenciasScreen::keepBoard(const QList<GoodReading> &readings)
 {
     const QDateTime now = QDateTime::currentDateTime();
-    QList<GoodReading> named = readings;
-    for (GoodReading &reading : named)
-        reading.board = now.toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s);
-    const auto references = referencesFrom(m_input.rows, m_input.earlier + named, now.date());
+    BoardChange change{.dropped = sameBoards(), .added = readings};
+    for (GoodReading &reading : change.added)
+        reading.board = (now.toString(u"yyyy-MM-dd HH:mm:ss.zzz "_s) + m_serial).trimmed();
+    change.references = referencesFrom(m_input.rows, earlierWithout(change.dropped) + change.added, now.date());
     const QString model = session().model();
-    write([=](Store &store) { return addGoodBoard(store, model, named, references); }, Board::Taken);
+    write([=](Store &store) { return changeGoodBoards(store, model, change); }, Board::Taken);
 }
 
 void ReferenciasScreen::btDesfazer_Click()
@@ -156,11 +236,10 @@ void ReferenciasScreen::btDesfazer_Click()
 
 void ReferenciasScreen::forget(const QString &board)
 {
-    QList<GoodReading> remaining = m_input.earlier;
-    remaining.removeIf([&board](const GoodReading &reading) { return reading.board == board; });
-    const auto references = referencesFrom(m_input.rows, remaining, QDate::currentDate());
+    const BoardChange change{.dropped = {board},
+                             .references = referencesFrom(m_input.rows, earlierWithout({board}), QDate::currentDate())};
     const QString model = session().model();
-    write([=](Store &store) { return dropGoodBoard(store, model, board, references); }, Board::Open);
+    write([=](Store &store) { return changeGoodBoards(store, model, change); }, Board::Open);
 }
 
 void ReferenciasScreen::write(std::function<Result<Done>(Store &)> work, Board after)

@@ -15,15 +15,19 @@ public:
     void open() override { load(); }
 
     void btExecutaLeitura_Click() { read(); }
-    /// Keeps what this board read, after a question.
+    /// Keeps what this board read, after a question. The phone is asked for its serial number first: the same board
+    /// counts once.
     void btTomar_Click();
     /// Forgets the board that was taken last, after a question.
     void btDesfazer_Click();
 
+    void take(const Delivery &delivery) override;
+    void release(Release why, const Delivery &partial) override;
+
 protected:
     bool isPrepared() const override { return m_isLoaded; }
     void prepare() override { load(); }
-    void readingBegan() override { m_board = Board::Open; }
+    void readingBegan() override;
     void readingStopped() override {}
     void rebuild() override;
 
@@ -37,15 +41,22 @@ private:
 
     void load();
     bool mayTake();
-    void take(const QList<GoodReading> &readings);
+    void propose();
+    QString proposal() const;
+    void keepBoard(const QList<GoodReading> &readings);
     void forget(const QString &board);
     QString lastBoard() const;
+    QStringList sameBoards() const;
+    QList<GoodReading> earlierWithout(const QStringList &boards) const;
+    ReferenciasInput input() const;
     QMap<QString, Field> state() const;
     /// Runs a write, and shows what the store holds then.
     void write(std::function<Result<Done>(Store &)> work, Board after);
 
-    ReferenciasInput m_input;
+    ReferenciasInput m_input; ///< as the store holds it
     ReferenciasReading m_read;
     bool m_isLoaded = false;
     Board m_board = Board::Open;
+    QString m_serial; ///< of the board that was read, once the phone told it
+    bool m_isAskingSerial = false;
 };

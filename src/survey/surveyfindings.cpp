@@ -3,8 +3,6 @@
 #include "catalogue.h"
 #include "replycodes.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -61,13 +59,4 @@ QList<Finding> findingsOf(const QList<SurveyAnswer> &answers, const QString &mod
         for (const Judgement &judgement : judgementsOf(answer, inputOf(answer, model, language, reference)))
             addFinding(findings, judgement);
     return findings;
-}
-
-QString serialIn(const QString &reply)
-{
-    static const QRegularExpression kSerial(u"^(?:SrNm)?:?\\s*\"?([0-9A-Z]{8,17})\"?$"_s);
-    for (const QString &line : reply.split(u'\n'))
-        if (const auto match = kSerial.match(line.trimmed()); match.hasMatch())
-            return match.captured(1);
-    return {};
 }

@@ -19,6 +19,3 @@ SurveyInput inputOf(const SurveyAnswer &answer, const QString &model, Language l
 /// What the answers come to, one finding per output. A question without an answer is one thing that was not measured.
 QList<Finding> findingsOf(const QList<SurveyAnswer> &answers, const QString &model, Language language,
                           const SurveyReference &reference);
-
-/// The serial number in the reply to its question; empty when the phone told none.
-QString serialIn(const QString &reply);

@@ -1,5 +1,7 @@
 #include "surveyrun.h"
 
+#include "serialnumber.h"
+
 #include <algorithm>
 #include <array>
 

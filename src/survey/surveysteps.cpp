@@ -12,6 +12,7 @@
 #include "replycodes.h"
 #include "rfsreading.h"
 #include "selftest.h"
+#include "serialnumber.h"
 #include "tigrisreading.h"
 
 #include <array>
@@ -20,8 +21,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-constexpr auto kSerialCommand = "syscfg print SrNm"_L1;
 
 bool isTouchSupplyOff(const SurveyInput &input)
 {

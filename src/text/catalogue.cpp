@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isKnown(Language language)
@@ -87,6 +89,13 @@ QString caption(QStringView key, Language language)
     if (!row || !isKnown(language))
         return {};
     return std::array{row->portuguese, row->english, row->spanish}[columnOf(language)].toString();
+}
+
+QString countCaption(QStringView key, qsizetype count, Language language)
+{
+    const QString number = QString::number(count);
+    const QString own = caption(key.toString() + ": "_L1 + number, language);
+    return own.isEmpty() ? caption(key, language).arg(number) : own;
 }
 
 std::optional<Message> message(const Notice &notice, Language language)

@@ -9,6 +9,10 @@
 /// missing row is seen at once.
 QString caption(QStringView key, Language language);
 
+/// A caption that tells a number. A number with words of its own ("1 output") has a row of its own, its key ending in
+/// the number ("%1 saídas: 1").
+QString countCaption(QStringView key, qsizetype count, Language language);
+
 enum class MessageIcon
 {
     None,

@@ -81,7 +81,8 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"Sem referência", u"Sem referência", u"No reference", u"Sin referencia"},
     {u"%1 com falha", u"%1 com falha", u"%1 failed", u"%1 con falla"},
     {u"%1 sem medição", u"%1 sem medição", u"%1 not measured", u"%1 sin lectura"},
-    {u"%1 aprovados", u"%1 aprovado(s)", u"%1 passed", u"%1 aprobado(s)"},
+    {u"%1 aprovados", u"%1 aprovados", u"%1 passed", u"%1 aprobados"},
+    {u"%1 aprovados: 1", u"1 aprovado", u"1 passed", u"1 aprobado"},
 
     // The journal of surveys
     {u"Diário de vistorias", u"Diário de vistorias", u"Survey journal", u"Diario de revisiones"},
@@ -217,15 +218,29 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"REFERENCIAS_COMPLETAS", u"Todas as malhas de %1 têm referência publicada.",
      u"Every rail of the %1 has a published reference.", u"Todas las mallas de %1 tienen referencia publicada."},
     {u"TOMAR_REFERENCIA",
-     u"Modelo %1: guardar %2 leituras desta placa?\n%3 referências mudam. Só o que não tem referência publicada "
-     u"muda, e isso pode ser desfeito.",
-     u"Model %1: keep %2 readings of this board?\n%3 references change. Only what has no published reference changes, "
-     u"and it can be undone.",
-     u"Modelo %1: ¿guardar %2 lecturas de esta placa?\n%3 referencias cambian. Solo cambia lo que no tiene referencia "
-     u"publicada, y se puede deshacer."},
+     u"Modelo %1: guardar o que esta placa mede em %2?\n%3. Só muda o que não tem referência publicada, e isso pode "
+     u"ser desfeito.",
+     u"Model %1: keep what this board reads on %2?\n%3. Only what has no published reference changes, and it can be "
+     u"undone.",
+     u"Modelo %1: ¿guardar lo que esta placa mide en %2?\n%3. Solo cambia lo que no tiene referencia publicada, y se "
+     u"puede deshacer."},
+    {u"%1 saídas", u"%1 saídas", u"%1 outputs", u"%1 salidas"},
+    {u"%1 saídas: 1", u"1 saída", u"1 output", u"1 salida"},
+    {u"%1 referências mudam", u"%1 referências mudam", u"%1 references change", u"%1 referencias cambian"},
+    {u"%1 referências mudam: 1", u"1 referência muda", u"1 reference changes", u"1 referencia cambia"},
+    {u"%1 referências mudam: 0", u"Nenhuma referência muda", u"No reference changes", u"Ninguna referencia cambia"},
+    {u"TOMAR_SEM_SERIE", u"O telefone não diz o número de série: não há como saber se esta placa já foi tomada.",
+     u"The phone does not tell its serial number: it cannot be known whether this board was taken before.",
+     u"El teléfono no dice su número de serie: no se puede saber si esta placa ya fue tomada."},
+    {u"TOMAR_DE_NOVO", u"Esta placa já foi tomada: %1. Sim substitui o que ela mediu naquela vez.",
+     u"This board was taken before: %1. Yes replaces what it read then.",
+     u"Esta placa ya fue tomada: %1. Sí reemplaza lo que midió aquella vez."},
     {u"TOMAR_COM_FALHAS", u"Atenção: %1 saídas desta placa falham nas referências publicadas. Ela está mesmo boa?",
      u"Careful: %1 outputs of this board fail their published references. Is it really good?",
      u"Atención: %1 salidas de esta placa fallan en sus referencias publicadas. ¿Está realmente buena?"},
+    {u"TOMAR_COM_FALHAS: 1", u"Atenção: 1 saída desta placa falha na referência publicada. Ela está mesmo boa?",
+     u"Careful: 1 output of this board fails its published reference. Is it really good?",
+     u"Atención: 1 salida de esta placa falla en su referencia publicada. ¿Está realmente buena?"},
     {u"DESFAZER_PLACA", u"Esquecer a placa de %1? As referências voltam ao que as outras placas dão.",
      u"Forget the board of %1? The references go back to what the other boards give.",
      u"¿Olvidar la placa de %1? Las referencias vuelven a lo que dan las otras placas."},

@@ -49,7 +49,10 @@ struct Bench : RailBench<ReferenciasScreen>
     {
         readBoard(description);
         screen->btTomar_Click();
+        gatherReply(); // the serial number
     }
+    /// What is kept of the rail that has no published reference.
+    QString source() { return stored(u"IP X"_s, 1, u"Ldo9"_s).source.section(u", "_s, 1, 2); }
     bool enabled(const QString &control) const { return *screen->panel().fields.value(control).enabled; }
 };
 
@@ -98,13 +101,65 @@ private slots:
         QVERIFY2(one.source.startsWith(u"recorded here, n = 1, Δ 0.0 %, 20"_s), qPrintable(one.source));
         QVERIFY(!bench.enabled(u"btTomar"_s)); // not the same reading twice
 
-        bench.takeBoard(u"IP X,ldo9=1810"_s);
+        bench.takeBoard(u"IP X,ldo9=1810,serial=SIM0BOARD2"_s);
         QCOMPARE(bench.stored(u"IP X"_s, ldo->tipo, u"Ldo9"_s).refV, u"1.805"_s);
         bench.screen->btDesfazer_Click();
         QCOMPARE(bench.stored(u"IP X"_s, ldo->tipo, u"Ldo9"_s).refV, u"1.800"_s);
         bench.screen->btDesfazer_Click();
         QCOMPARE(allRows(bench, u"IP X"_s), before);
         QVERIFY(!bench.enabled(u"btDesfazer"_s));
+    }
+
+    void sourceFollowsTheBoards()
+    {
+        Bench bench(u"IP X"_s);
+        bench.takeBoard(u"IP X,ldo9=1800,serial=SIM0BOARD1"_s);
+        bench.takeBoard(u"IP X,ldo9=1820,serial=SIM0BOARD2"_s);
+        bench.takeBoard(u"IP X,ldo9=1810,serial=SIM0BOARD3"_s); // the median stays
+        QCOMPARE(bench.source(), u"n = 3, Δ 1.1 %"_s);
+        bench.screen->btDesfazer_Click();
+        QCOMPARE(bench.source(), u"n = 2, Δ 1.1 %"_s);
+    }
+
+    void aBoardCountsOnce()
+    {
+        Bench bench(u"IP X"_s);
+        bench.takeBoard(u"IP X,ldo9=1800"_s);
+        QVERIFY(!bench.boxes.questions.constLast().contains(u"já foi tomada"_s));
+        bench.takeBoard(u"IP X,ldo9=1820"_s);
+        QVERIFY(bench.boxes.questions.constLast().contains(u"Esta placa já foi tomada: 20"_s));
+        QCOMPARE(bench.stored(u"IP X"_s, 1, u"Ldo9"_s).refV, u"1.820"_s);
+        QCOMPARE(bench.source(), u"n = 1, Δ 0.0 %"_s);
+        bench.takeBoard(u"IP X,ldo9=1820,serial=none"_s);
+        QVERIFY(bench.boxes.questions.constLast().contains(u"não há como saber"_s));
+        QCOMPARE(bench.source(), u"n = 2, Δ 0.0 %"_s);
+    }
+
+    void linkLostWhileTheSerialIsAsked()
+    {
+        Bench bench(u"IP X"_s);
+        bench.readBoard(u"IP X"_s);
+        bench.screen->btTomar_Click();
+        bench.port.pull();
+        QVERIFY(bench.boxes.questions.isEmpty());
+        bench.screen->btTomar_Click(); // what was read is still there
+        QVERIFY(bench.boxes.questions.constLast().contains(u"não há como saber"_s));
+    }
+
+    /// Outputs that stand in two kinds are one thing to a person.
+    void questionCountsWhatTheTableShows()
+    {
+        Bench bench(u"IP X"_s);
+        bench.readBoard(u"IP X"_s);
+        const auto read = std::ranges::count_if(bench.screen->panel().rows,
+                                                [](const Row &row) { return !row.cell(u"Leitura").isEmpty(); });
+        const auto changed = std::ranges::count_if(bench.screen->panel().rows,
+                                                   [](const Row &row) { return !row.cell(u"Nova").isEmpty(); });
+        bench.screen->btTomar_Click();
+        bench.gatherReply();
+        const QString &question = bench.boxes.questions.constLast();
+        QVERIFY2(question.contains(u"em %1 saídas?\n%2 referências mudam."_s.arg(read).arg(changed)),
+                 qPrintable(question));
     }
 
     void publishedReferencesStay()

@@ -1,4 +1,5 @@
 #include "columns.h"
+#include "serialnumber.h"
 #include "surveyjournal.h"
 #include "surveypace.h"
 #include "surveypanel.h"
