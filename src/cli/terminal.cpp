@@ -1,5 +1,7 @@
 #include "terminal.h"
 
+#include "visibletext.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -41,7 +43,7 @@ QString oneLine(const Trouble &trouble, Language language)
     QStringList sentences{sentence(trouble.what, language)};
     for (const Notice &remedy : trouble.remedies)
         sentences.append(sentence(remedy, language));
-    return joined(sentences);
+    return printable(joined(sentences));
 }
 
 static void print(FILE *stream, const QString &text)
@@ -71,8 +73,22 @@ static QString padded(const QString &cell, qsizetype width, Qt::Alignment alignm
     return alignment & Qt::AlignRight ? cell.rightJustified(width) : cell.leftJustified(width);
 }
 
-QString aligned(const QList<QStringList> &rows, const QList<Qt::Alignment> &alignments)
+QString printable(const QString &text)
 {
+    QString line = visibleText(text);
+    return line.replace(u'\n', u' ').replace(u'\t', u' ');
+}
+
+static QStringList printable(QStringList row)
+{
+    for (QString &cell : row)
+        cell = printable(cell);
+    return row;
+}
+
+QString aligned(QList<QStringList> rows, const QList<Qt::Alignment> &alignments)
+{
+    std::ranges::transform(rows, rows.begin(), [](const QStringList &row) { return printable(row); });
     QList<qsizetype> widths(alignments.size(), 0);
     for (const QStringList &row : rows)
         for (qsizetype column = 0; column < row.size(); ++column)
@@ -184,7 +200,7 @@ QString summary(const Panel &panel, Language language)
     QStringList parts;
     for (const Verdict verdict : {Verdict::Fail, Verdict::Incomplete, Verdict::Pass})
         if (const qsizetype count = countOf(panel, verdict))
-            parts.append(caption(look(verdict).countKey, language).arg(count));
+            parts.append(countCaption(look(verdict).countKey, count, language));
     return parts.join(", "_L1);
 }
 
@@ -194,7 +210,7 @@ QString unmeasured(const Panel &panel)
     QString text;
     for (const Judgement &judgement : panel.judgements)
         if (judgement.verdict == Verdict::Incomplete)
-            text += u"   %1: %2\n"_s.arg(judgement.what, judgement.reading);
+            text += u"   %1: %2\n"_s.arg(printable(judgement.what), printable(judgement.reading));
     return text;
 }
 
@@ -222,12 +238,12 @@ QString verdictText(Verdict verdict, Language language, bool colour)
 QString readable(const Panel &panel, Language language, bool colour)
 {
     const QString verdict = verdictText(panel.verdict, language, colour);
-    QString text = panel.title + u'\n';
+    QString text = printable(panel.title) + u'\n';
     const QList<Row> &rows = panel.rows.isEmpty() ? panel.facts : panel.rows;
     if (!rows.isEmpty())
         text += u'\n' + grid(rows, language, colour);
     for (const QString &line : panel.lines)
-        text += line + u'\n';
+        text += printable(line) + u'\n';
     if (rows.isEmpty())
         text += unmeasured(panel);
     else

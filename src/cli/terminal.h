@@ -15,8 +15,11 @@ void printError(const QString &text);
 /// True when colours may be used on standard output.
 bool colourWanted();
 
-/// Columns of text, padded to the widest cell; the last one is not.
-QString aligned(const QList<QStringList> &rows, const QList<Qt::Alignment> &alignments);
+/// A text of the phone as it may go to a terminal, on one line.
+QString printable(const QString &text);
+
+/// Columns of such texts, padded to the widest cell; the last one is not.
+QString aligned(QList<QStringList> rows, const QList<Qt::Alignment> &alignments);
 
 /// The word of a verdict, large as a terminal can.
 QString verdictText(Verdict verdict, Language language, bool colour);

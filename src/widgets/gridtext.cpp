@@ -1,5 +1,7 @@
 #include "gridtext.h"
 
+#include "visibletext.h"
+
 #include <QAbstractItemModel>
 #include <QRegularExpression>
 
@@ -10,7 +12,7 @@ using namespace Qt::StringLiterals;
 /// A tab or a line break inside a cell would tear the table apart.
 static QString inOneCell(const QModelIndex &cell)
 {
-    return cell.data().toString().simplified();
+    return visibleText(cell.data().toString().simplified());
 }
 
 QString copiedText(QModelIndexList cells)
@@ -31,7 +33,7 @@ QList<QStringList> tableText(const QAbstractItemModel &model)
     for (int column = 0; column < model.columnCount(); ++column) {
         lines[0].append(model.headerData(column, Qt::Horizontal).toString());
         for (int row = 0; row < model.rowCount(); ++row)
-            lines[row + 1].append(model.index(row, column).data().toString());
+            lines[row + 1].append(visibleText(model.index(row, column).data().toString()));
     }
     return lines;
 }

@@ -383,6 +383,14 @@ private slots:
         QVERIFY(survey.out.contains("FAIL (3 failed, "));
     }
 
+    void noiseNeverReachesTheTerminal()
+    {
+        const Outcome survey = atHome(u"survey --no-journal --port \"sim:IP 7,garbage\""_s);
+        QVERIFY(survey.out.contains("\\x80")); // it was there
+        const QString text = QString::fromUtf8(survey.out);
+        QVERIFY(std::ranges::none_of(text, [](QChar c) { return c.category() == QChar::Other_Control && c != u'\n'; }));
+    }
+
     void surveyForScripts()
     {
         const Outcome survey = atHome(u"survey --json --no-journal --with memory --port \"sim:IP X,drop@90000\""_s);
