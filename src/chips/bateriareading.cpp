@@ -110,6 +110,16 @@ QStringList valuesOf(const QString &reply)
     return values;
 }
 
+/// The line of the reply that a fact was read from.
+QString lineOf(const QString &reply, const Fact &fact)
+{
+    const auto span = fact.label.isEmpty() ? std::nullopt : spanBehind(reply, fact.label);
+    if (!span)
+        return {};
+    const qsizetype start = reply.lastIndexOf(u'\n', span->start) + 1;
+    return reply.sliced(start, span->end - start).trimmed();
+}
+
 QString note(const GaugeInput &input)
 {
     return "* "_L1 +
@@ -145,8 +155,9 @@ Panel readBateria(const GaugeInput &input)
     for (int i = 0; i < kBatteryFacts; ++i) {
         panel.fields[element(u"Info", i)].text = values.at(i);
         if (isRead)
-            panel.facts.append(
-                {{{u"Dado"_s, caption(batteryFact(i), input.language).trimmed()}, {u"Leitura"_s, values.at(i)}}});
+            panel.facts.append({{{u"Dado"_s, caption(batteryFact(i), input.language).trimmed()},
+                                 {u"Leitura"_s, values.at(i)},
+                                 {u"Linha"_s, lineOf(input.reply, kFacts.at(static_cast<std::size_t>(i)))}}});
     }
     panel.fields[u"MedidorSaude"_s] = gauge(batteryHealth(input.reply));
     panel.fields[u"MedidorCarga"_s] = gauge(charge(input.reply));

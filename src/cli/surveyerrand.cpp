@@ -26,7 +26,7 @@ QJsonArray stepsArray(const SurveyRun &run)
     return array;
 }
 
-QString tableOf(const QList<Finding> &findings, Language language)
+QString tableOf(const QList<Finding> &findings, const QString &model, Language language)
 {
     static constexpr std::array kColumns = {
         std::pair(u"Veredito", u"Veredito"), std::pair(u"Achado", u"Achado"),
@@ -41,7 +41,7 @@ QString tableOf(const QList<Finding> &findings, Language language)
         head.append(caption(title, language));
     }
     QList<QStringList> lines{head};
-    for (const Row &row : findingRows(findings, language)) {
+    for (const Row &row : findingRows(findings, model, language)) {
         QStringList cells;
         for (const auto &column : kColumns)
             cells.append(row.cell(column.first));
@@ -147,7 +147,7 @@ QString SurveyErrand::readableText()
     const SurveyRun &run = m_survey.run();
     const QString serial = run.serial().isEmpty() ? caption(u"desconhecido", language()) : run.serial();
     return caption(u"Vistoria", language()) + " - "_L1 + run.model + ", "_L1 + caption(u"Número de série", language()) +
-           ": "_L1 + serial + "\n\n"_L1 + tableOf(m_survey.findings(), language()) + u'\n' +
+           ": "_L1 + serial + "\n\n"_L1 + tableOf(m_survey.findings(), run.model, language()) + u'\n' +
            caption(captionKey(run.end), language()) + u'\n' +
            verdictText(m_survey.reading().verdict, language(), colourWanted()) + " ("_L1 + counts + ")\n"_L1;
 }

@@ -19,7 +19,8 @@ QString shownReply(const QString &reply)
 
 void addFact(Panel &panel, const Judgement &fact)
 {
-    panel.facts.append({{{u"Dado"_s, fact.what}, {u"Leitura"_s, fact.reading}}, {}, {}, fact.verdict});
+    panel.facts.append(
+        {{{u"Dado"_s, fact.what}, {u"Leitura"_s, fact.reading}, {u"Linha"_s, fact.line}}, {}, {}, fact.verdict});
     panel.verdict = worst(panel.verdict, fact.verdict);
     if (fact.verdict == Verdict::None)
         return;

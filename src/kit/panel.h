@@ -89,7 +89,7 @@ struct Panel
     QString title;
     QMap<QString, Field> fields; ///< by control name; element n of a control array is "Name(n)"
     QList<Row> rows;
-    QList<Row> facts; ///< the named fields as a table, for where there are no controls to stand in
+    QList<Row> facts; ///< the named fields as a table, for where there are no controls to stand in, with their lines
     QStringList lines;
     QList<Notice> messages; ///< what the reading wants to tell; without a key: title and text of a box of its own
     QList<Judgement> judgements;

@@ -34,7 +34,7 @@ Row sideOf(const std::optional<Finding> &finding, Language language)
 {
     if (!finding)
         return {.cells = {{u"Veredito"_s, caption(u"Não lido", language)}}};
-    return findingRows({*finding}, language).constFirst();
+    return findingRows({*finding}, {}, language).constFirst();
 }
 
 /// The colour of a row follows what is to be done about it.

@@ -18,7 +18,7 @@ Panel JournalScreen::makePanel() const
     panel.screen = name();
     panel.title = caption(u"Diário de vistorias") + " - Tavimo Prelt"_L1;
     if (isOne()) {
-        panel.rows = findingRows(findingsOf(m_entries[0]), session().language());
+        panel.rows = findingRows(findingsOf(m_entries[0]), m_entries[0].survey.model, session().language());
         panel.verdict = verdictOf(m_entries[0]);
     } else if (isComparing()) {
         panel.rows = comparisonRows(m_outputs, session().language());

@@ -71,6 +71,7 @@ QList<Judgement> withFacts(const std::function<Panel(Language)> &read, Language 
         judgements.append({.what = fact.cell(u"Dado"),
                            .reading = reading,
                            .screen = panel.screen,
+                           .line = fact.cell(u"Linha"),
                            .output = panel.screen + u'/' + kept.value(place).cell(u"Dado")});
     }
     return judgements;
@@ -85,25 +86,34 @@ QString lineWith(const QString &reply, QLatin1StringView word)
 
 Judgement health(const SurveyInput &input)
 {
-    const SurveyReference &reference = input.reference;
-    const QStringView source =
-        reference.isBatteryPreset ? u"preset limit (setting battery-worn)" : u"setting battery-worn";
     Judgement judgement{.what = caption(batteryFact(0), input.language).trimmed(),
-                        .reading = caption(u"Sem Medição", input.language),
-                        .reference = u"≥ %1 %"_s.arg(reference.batteryWorn),
-                        .source = source.toString(),
-                        .rule = Rule{reference.batteryWorn - kWhole, {}, AtLimit::Good},
-                        .verdict = isGaugeShort(input.model) ? Verdict::None : Verdict::Incomplete,
+                        .reading = caption(u"MEDIDOR_NAO_INFORMA", input.language),
                         .screen = u"Bateria"_s,
                         .line = lineWith(input.reply, "nominal-capacity:"_L1),
                         .output = u"Bateria/"_s + caption(batteryFact(0), kKept).trimmed()};
     const auto percent = batteryHealth(input.reply);
-    if (!percent)
+    if (!percent && isGaugeShort(input.model))
         return judgement;
-    judgement.reading = u"%1 %"_s.arg(*percent);
-    judgement.deviation = *percent - kWhole;
-    judgement.verdict = judged(judgement.deviation, *judgement.rule);
+    const SurveyReference &reference = input.reference;
+    judgement.reading = percent ? u"%1 %"_s.arg(*percent) : caption(u"Sem Medição", input.language);
+    judgement.reference = u"≥ %1 %"_s.arg(reference.batteryWorn);
+    judgement.source = reference.isBatteryPreset ? u"preset limit (setting battery-worn)"_s : u"setting battery-worn"_s;
+    judgement.rule = Rule{reference.batteryWorn - kWhole, {}, AtLimit::Good};
+    if (percent)
+        judgement.deviation = *percent - kWhole;
+    judgement.verdict = percent ? judged(judgement.deviation, *judgement.rule) : Verdict::Incomplete;
     return judgement;
+}
+
+/// Of a bus on which nothing is expected the answering addresses are told.
+Judgement unexpected(const SurveyInput &input)
+{
+    const QString bus = u"I2C %1"_s.arg(input.index);
+    QStringList addresses;
+    for (const BusDevice &device : answeringDevices({input.index, input.reply, input.cut}, {}))
+        addresses.append(u'0' + device.key);
+    const QString told = addresses.isEmpty() ? caption(u"I2C_NINGUEM", input.language) : addresses.join(u' ');
+    return {.what = bus, .reading = caption(u"I2C_SEM_ESPERADOS", input.language).arg(told), .screen = u"I2C"_s};
 }
 
 } // namespace
@@ -145,12 +155,13 @@ QList<Judgement> judgeBattery(const SurveyInput &input)
 
 QList<Judgement> judgeBus(const SurveyInput &input)
 {
-    return readI2C({.replies = {{input.index, input.reply, input.cut}},
-                    .expected = input.reference.devices,
-                    .bus = input.index,
-                    .model = input.model,
-                    .language = input.language})
-        .judgements;
+    const QList<Judgement> judgements = readI2C({.replies = {{input.index, input.reply, input.cut}},
+                                                 .expected = input.reference.devices,
+                                                 .bus = input.index,
+                                                 .model = input.model,
+                                                 .language = input.language})
+                                            .judgements;
+    return judgements.isEmpty() ? QList{unexpected(input)} : judgements;
 }
 
 QList<Judgement> judgeStorage(const SurveyInput &input)

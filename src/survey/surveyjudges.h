@@ -37,6 +37,7 @@ QList<Judgement> judgeDisplayChip(const SurveyInput &input);
 QList<Judgement> judgePortChip(const SurveyInput &input);
 /// The facts of the gauge, and its health held against the limit: the screen itself judges nothing.
 QList<Judgement> judgeBattery(const SurveyInput &input);
+/// The devices that are expected on a bus; where there are none, what answers.
 QList<Judgement> judgeBus(const SurveyInput &input);
 QList<Judgement> judgeStorage(const SurveyInput &input);
 QList<Judgement> judgeRadio(const SurveyInput &input);

@@ -1,6 +1,7 @@
 #include "surveypanel.h"
 
 #include "catalogue.h"
+#include "moduletable.h"
 #include "sourcetext.h"
 #include "surveyscreen.h"
 
@@ -19,7 +20,7 @@ Verdict gridVerdict(FindingVerdict verdict)
     return kVerdicts.at(static_cast<std::size_t>(verdict));
 }
 
-Row rowOf(const Finding &finding, Language language)
+Row rowOf(const Finding &finding, const QString &model, Language language)
 {
     return {.cells = {{u"Veredito"_s, caption(captionKey(finding.verdict), language)},
                       {u"Achado"_s, finding.what},
@@ -27,7 +28,7 @@ Row rowOf(const Finding &finding, Language language)
                       {u"REF"_s, finding.reference},
                       {u"PORC"_s, deviationOf(finding)},
                       {u"Fonte"_s, sourceText(finding.source, language)},
-                      {u"Telas"_s, finding.screens.join(", "_L1)},
+                      {u"Telas"_s, screenNames(finding, model, language)},
                       {u"Linha"_s, finding.line}},
             .deviation = finding.deviation,
             .rule = finding.rule,
@@ -61,11 +62,21 @@ QString deviationOf(const Finding &finding)
     return finding.deviation ? QString::number(*finding.deviation, 'f', 1) + " %"_L1 : QString();
 }
 
-QList<Row> findingRows(const QList<Finding> &findings, Language language)
+QString screenNames(const Finding &finding, const QString &model, Language language)
+{
+    QStringList names;
+    for (const QString &screen : finding.screens) {
+        const Module *module = moduleNamed(screen);
+        names.append(module ? caption(captionKey(*module, model), language) : screen);
+    }
+    return names.join(", "_L1);
+}
+
+QList<Row> findingRows(const QList<Finding> &findings, const QString &model, Language language)
 {
     QList<Row> rows;
     for (const Finding &finding : findings)
-        rows.append(rowOf(finding, language));
+        rows.append(rowOf(finding, model, language));
     return rows;
 }
 
@@ -78,7 +89,7 @@ QString findingCounts(const QList<Finding> &findings, Language language)
     QStringList parts;
     for (const auto &[verdict, key] : kKeys)
         if (const qsizetype count = countOf(findings, verdict))
-            parts.append(caption(key, language).arg(count));
+            parts.append(countCaption(key, count, language));
     return parts.join(", "_L1);
 }
 
@@ -118,7 +129,7 @@ Panel SurveyScreen::makeReading() const
     panel.screen = name();
     panel.title =
         caption(u"Vistoria") + " - Tavimo Prelt - "_L1 + (m_run.model.isEmpty() ? session().model() : m_run.model);
-    panel.rows = findingRows(shownFindings(), language);
+    panel.rows = findingRows(shownFindings(), m_run.model, language);
     panel.judgements = judgements();
     panel.verdict = overall(m_findings);
     if (m_run.end != SurveyEnd::Finished && panel.verdict == Verdict::Pass)

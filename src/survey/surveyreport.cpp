@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ReportFinding rowOf(const Finding &finding)
+ReportFinding rowOf(const Finding &finding, const QString &model, Language language)
 {
     return {.what = finding.what,
             .reading = finding.reading,
@@ -17,7 +17,7 @@ ReportFinding rowOf(const Finding &finding)
             .source = finding.source,
             .deviationText = deviationOf(finding),
             .line = finding.line,
-            .screen = finding.screens.join(", "_L1),
+            .screen = screenNames(finding, model, language),
             .deviation = finding.deviation,
             .tolerance = drawnTolerance(finding.rule),
             .verdict = finding.verdict};
@@ -42,6 +42,7 @@ ReportDocument reportOf(const SurveyRun &run, const QList<Finding> &findings, co
                           .date = run.started.toString(u"yyyy-MM-dd HH:mm"_s),
                           .note = noteOf(run, signing.note, language),
                           .language = language};
-    std::ranges::transform(findings, std::back_inserter(report.findings), rowOf);
+    std::ranges::transform(findings, std::back_inserter(report.findings),
+                           [&](const Finding &finding) { return rowOf(finding, run.model, language); });
     return report;
 }

@@ -56,6 +56,8 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"VOLTAGEM", u"VOLTAGEM", u"VOLTAGE", u"VOLTAJE"},
     {u"CORRENTE", u"CORRENTE", u"CURRENT", u"CORRIENTE "},
     {u"TEMPERATURA", u"TEMPERATURA", u"TEMPERATURE", u"TEMPERATURA"},
+    {u"MEDIDOR_NAO_INFORMA", u"o medidor deste modelo não informa", u"this model's gauge does not tell it",
+     u"el medidor de este modelo no lo informa"},
     {u"NAO_DISP_PARA_ESSE_MODELO", u"Função não dispoível para esse modelo", u"Function not available for this model",
      u"Función no disponible para este modelo"},
 
@@ -88,6 +90,9 @@ static constexpr CaptionRow kScreenCaptions[] = {
     {u"Não serão mais esperados (não responderam):", u"Não serão mais esperados (não responderam):",
      u"No longer expected (they did not answer):", u"Ya no se esperarán (no respondieron):"},
     {u"Passam a ser esperados:", u"Passam a ser esperados:", u"Expected from now on:", u"Se esperarán desde ahora:"},
+    {u"I2C_SEM_ESPERADOS", u"%1 (nenhum componente esperado)", u"%1 (no device expected)",
+     u"%1 (ningún componente esperado)"},
+    {u"I2C_NINGUEM", u"nenhuma resposta", u"no answer", u"ninguna respuesta"},
     {u"Telefone bom conhecido", u"Telefone bom conhecido", u"Known-good phone", u"Teléfono bueno conocido"},
     {u"CONHECIDO_I2C",
      u"O que respondeu (%2 componentes em %3 barramentos) passa a ser o esperado do %1 nesses barramentos, no lugar do "

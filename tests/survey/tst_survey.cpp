@@ -3,6 +3,7 @@
 #include "phonebench.h"
 #include "queries.h"
 #include "settingkeys.h"
+#include "surveypanel.h"
 #include "surveyscreen.h"
 
 #include <QFile>
@@ -51,6 +52,12 @@ struct SurveyBench : PhoneBench
             if (finding.verdict == verdict)
                 names.append(finding.what);
         return names;
+    }
+    Finding finding(const QString &what) const
+    {
+        const QList<Finding> &all = survey.findings();
+        const auto found = std::ranges::find(all, what, &Finding::what);
+        return found == all.end() ? Finding{} : *found;
     }
     QStringList open() const
     {
@@ -150,6 +157,38 @@ private slots:
         QVERIFY(!outputs(Language::Portuguese).isEmpty());
         QCOMPARE(outputs(Language::English), outputs(Language::Portuguese));
         QCOMPARE(outputs(Language::Spanish), outputs(Language::Portuguese));
+    }
+
+    void whatIsNotJudged_data()
+    {
+        columns<QString, QString, QString, QString>({"phone", "what", "reading", "line"});
+        QTest::newRow("a gauge that does not tell the health")
+            << u"IP 6"_s << u"SAÚDE DA BATERIA"_s << u"o medidor deste modelo não informa"_s << QString();
+        QTest::newRow("a value of the gauge")
+            << u"IP 7"_s << u"CICLOS DE CARGA"_s << u"512"_s << u"cycle-count: \"512\""_s;
+        QTest::newRow("the storage") << u"IP 7"_s << u"Tamanho da NAND"_s << u"32 GB"_s << u"size: 1DCC800"_s;
+        QTest::newRow("a bus with nothing expected")
+            << u"IP X"_s << u"I2C 0"_s << u"nenhuma resposta (nenhum componente esperado)"_s << QString();
+    }
+
+    void whatIsNotJudged()
+    {
+        QFETCH(const QString, phone);
+        QFETCH(const QString, what);
+        SurveyBench bench(phone, Journaling::None);
+        bench.runAll();
+        const Finding found = bench.finding(what);
+        QTEST(found.reading, "reading");
+        QTEST(found.line, "line");
+        QCOMPARE(found.verdict, FindingVerdict::NotJudged);
+        QCOMPARE(found.reference, QString());
+    }
+
+    void screensAreCalledAsInTheRail()
+    {
+        const Finding finding{.key = {}, .what = {}, .screens = {u"BuckLdo"_s, u"Tristar"_s, u"RFs"_s}, .reading = {}};
+        QCOMPARE(screenNames(finding, u"IP 7"_s, Language::English), u"Buck & Ldo, Tristar, RF"_s);
+        QCOMPARE(screenNames(finding, u"IP X"_s, Language::English), u"Buck & Ldo, Hydra, RF"_s);
     }
 
     void batteryLimitIsASetting()
