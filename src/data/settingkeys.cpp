@@ -136,7 +136,7 @@ QString described(const Accepted &accepted)
     case Form::Percent:
         return u"1 … 99"_s;
     case Form::File:
-        return u"…/logo.png"_s;
+        return u"PNG, JPEG"_s;
     case Form::Model:
         return modelNames().join(", "_L1);
     }
@@ -210,6 +210,8 @@ std::optional<Trouble> settingTrouble(const QString &name, const QString &value)
     const Key *key = keyNamed(name);
     if (!key)
         return unknown(name);
+    if (key->accepted == Accepted(Form::File) && !fits(key->accepted, value))
+        return Trouble{{u"SETTING_NO_FILE"_s, {name, value, described(key->accepted)}}};
     if (!fits(key->accepted, value))
         return Trouble{{u"SETTING_INVALID"_s, {name, value, described(key->accepted)}}};
     return {};

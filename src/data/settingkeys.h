@@ -27,5 +27,6 @@ Result<QString> namedSetting(const Store &store, const QString &name);
 /// What is wrong with a value, nothing when it is accepted. Trouble: as of `setNamedSetting`.
 std::optional<Trouble> settingTrouble(const QString &name, const QString &value);
 
-/// Writes a setting after checking its value. Trouble: SETTING_UNKNOWN, or SETTING_INVALID with what is accepted.
+/// Writes a setting after checking its value. Trouble: SETTING_UNKNOWN, SETTING_NO_FILE, or SETTING_INVALID with what
+/// is accepted.
 Result<Done> setNamedSetting(Store &store, const QString &name, const QString &value);

@@ -5,9 +5,15 @@
 #include "theme.h"
 
 #include <QInputDialog>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTextEdit>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +32,52 @@ static Message boxMessage(const Notice &notice, Language language)
     return message(notice, language).value_or(Message{u"Tavimo Prelt"_s, {notice.key}, MessageIcon::Information});
 }
 
+namespace {
+
+constexpr int kTextWidth = 480;
+constexpr int kTextHeight = 400;
+/// What a line of a box holds at least.
+constexpr qsizetype kLongestWord = 50;
+
+bool hasLongWord(const QString &text)
+{
+    static const QRegularExpression kBlank(u"\\s"_s);
+    return std::ranges::any_of(text.split(kBlank), [](const QString &word) { return word.size() > kLongestWord; });
+}
+
+/// The text of a box with its lines broken anywhere.
+QTextEdit *brokenText(const QString &text)
+{
+    auto *view = new QTextEdit;
+    view->setObjectName(u"BoxText"_s);
+    view->setReadOnly(true);
+    view->setFocusPolicy(Qt::ClickFocus); // the buttons keep the focus
+    view->setFrameShape(QFrame::NoFrame);
+    view->viewport()->setAutoFillBackground(false);
+    view->setStyleSheet(u"QTextEdit { background: transparent; border: none; padding: 0; }"_s);
+    view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    view->setPlainText(text);
+    view->document()->setDocumentMargin(0);
+    view->document()->setTextWidth(kTextWidth);
+    view->setFixedSize(kTextWidth,
+                       std::min(kTextHeight, static_cast<int>(std::ceil(view->document()->size().height()))));
+    return view;
+}
+
+/// A label cuts off a word that is wider than it, an address for one. What is told can be copied.
+void showWhole(QMessageBox &box)
+{
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
+    if (!label || !hasLongWord(box.text()))
+        return;
+    delete box.layout()->replaceWidget(label, brokenText(box.text()));
+    label->hide();
+}
+
+} // namespace
+
 QMessageBox *WindowBoxes::messageBox(const Trouble &trouble) const
 {
     const Message shown = boxMessage(trouble.what, m_language());
@@ -35,7 +87,7 @@ QMessageBox *WindowBoxes::messageBox(const Trouble &trouble) const
     auto *box =
         new QMessageBox(QMessageBox::NoIcon, shown.title.trimmed(), lines.join(u'\n'), QMessageBox::Ok, m_parent);
     box->setIconPixmap(boxPicture(shown.icon));
-    box->setTextFormat(Qt::PlainText);
+    showWhole(*box);
     return box;
 }
 
@@ -82,8 +134,8 @@ QMessageBox *WindowBoxes::questionBox(const Question &question) const
     const bool asks = question.choices != Question::Choices::Ok;
     auto *box =
         new QMessageBox(QMessageBox::NoIcon, question.title, question.text, buttonsOf(question.choices), m_parent);
-    box->setTextFormat(Qt::PlainText);
     box->setIconPixmap(boxPicture(asks ? MessageIcon::Question : MessageIcon::Information));
+    showWhole(*box);
     for (const AnswerButton &row : kAnswers)
         if (QAbstractButton *button = box->button(row.button); button && !row.key.isEmpty())
             button->setText(caption(row.key, m_language()));

@@ -23,6 +23,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -254,6 +255,20 @@ private slots:
             }
         }
         QVERIFY(tests > 40);
+    }
+
+    void longWordsAreBrokenInABox()
+    {
+        Bench bench;
+        const QString address = u"https://reports.example.org/index.php?"_s + QString(2000, u'x');
+        bench.session.boxes().message({{u"DOCUMENT_NOT_OPENED"_s, {address}}});
+        QTRY_VERIFY(bench.box());
+        const auto *text = bench.box()->findChild<QTextEdit *>(u"BoxText"_s);
+        QVERIFY(text && text->toPlainText().contains(address));
+        QVERIFY(text->document()->idealWidth() <= text->viewport()->width());
+        QVERIFY(bench.box()->width() < bench.window.width());
+        QVERIFY(text->document()->size().height() <= text->height() || text->height() == 400);
+        bench.box()->reject();
     }
 
     void languageReachesOpenForms_data()

@@ -372,6 +372,7 @@ private slots:
         QTest::newRow("an address") << u"help-video"_s << u"https://example.org/a?b=1"_s << u"done"_s;
         QTest::newRow("a file is no address") << u"help-video"_s << u"file:///etc/passwd"_s << u"SETTING_INVALID"_s;
         QTest::newRow("an address without a host") << u"report-host"_s << u"https://"_s << u"SETTING_INVALID"_s;
+        QTest::newRow("a logo that is not there") << u"logo"_s << u"/nowhere/logo.png"_s << u"SETTING_NO_FILE"_s;
         QTest::newRow("not known") << u"nome"_s << u"x"_s << u"SETTING_UNKNOWN"_s;
     }
 
