@@ -221,13 +221,6 @@ QTextTable &insertRow(QTextDocument &document, const Fill &fill)
 
 } // namespace
 
-static QString byNumber(char16_t code)
-{
-    return R"(\x)"_L1 + QString::number(code, 16).toUpper().rightJustified(2, u'0');
-}
-
-/// The pictures of control characters are in few faces, and the mark of an object in a text would be taken for one of
-/// the drawn ones.
 QImage logoPicture(const QString &file)
 {
     QImageReader reader(file);
@@ -235,12 +228,10 @@ QImage logoPicture(const QString &file)
     return file.isEmpty() ? QImage() : reader.read();
 }
 
+/// The mark of an object in a text would be taken for one of the drawn ones.
 QString onPaper(const QString &text)
 {
-    QString shown = visibleText(text).replace(QChar::ObjectReplacementCharacter, R"(\uFFFC)"_L1);
-    for (char16_t code = 0; code < 0x20; ++code)
-        shown.replace(QChar(u'\u2400' + code), byNumber(code));
-    return shown.replace(u'\u2421', byNumber(0x7F));
+    return visibleText(text).replace(QChar::ObjectReplacementCharacter, R"(\uFFFC)"_L1);
 }
 
 void layOutHead(QTextDocument &document, const ReportDocument &report)

@@ -6,9 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr char32_t kFirstPicture = 0x2400;
-constexpr char32_t kPictureOfDelete = 0x2421;
-constexpr QChar kPictureOfReturn = u'\u240D';
 constexpr char32_t kNoBreakSpace = 0xA0;
 
 bool isPlain(char32_t c)
@@ -41,10 +38,6 @@ QString byNumber(char32_t c)
 
 QString spelledOut(char32_t c)
 {
-    if (c < 0x20)
-        return QString(QChar(static_cast<char16_t>(kFirstPicture + c)));
-    if (c == 0x7F)
-        return QString(QChar(static_cast<char16_t>(kPictureOfDelete)));
     return isUnseen(c) ? byNumber(c) : QString::fromUcs4(&c, 1);
 }
 
@@ -75,7 +68,7 @@ QString visibleText(QStringView text)
             const qsizetype returns = returnsAtStart(text.sliced(at));
             at += returns;
             if (at == text.size() || text[at] != u'\n')
-                shown += QString(returns, kPictureOfReturn);
+                shown += byNumber(U'\r').repeated(returns);
             continue;
         }
         if (isPlain(c))

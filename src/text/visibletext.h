@@ -4,8 +4,8 @@
 #include <QString>
 
 /// Text as it may be shown to a person: whatever would steer a terminal or hide in a line is spelled out instead.
-/// Control characters become their pictures (␀, ␛), other unseen ones are written by number (\x9B, \u202E); a line end
-/// of LF or CR LF is one line break, tabs stay. Text that is visible already stays as it is.
+/// Control characters and other unseen ones are written by number (\x1B, \u202E), for the pictures of them are in few
+/// faces; a line end of LF or CR LF is one line break, tabs stay. Text that is visible already stays as it is.
 QString visibleText(QStringView text);
 
 /// The same for bytes of the phone, each one character.

@@ -67,7 +67,7 @@ private slots:
         row("masked", u"SrNm: C39XYZ\nok"_s, u"SrNm: xxxxx®\nok"_s, {u"m|SrNm: C39XYZ|SrNm: xxxxx®|"_s, u"=|ok|ok|"_s});
         row("masked, and another thing beside it", u"SrNm: c39xyz bad"_s, u"SrNm: xxxxx® good"_s,
             {u"!|SrNm: c39xyz bad|SrNm: xxxxx® good|"_s});
-        row("control characters", u"a\x1B[2J\u0000b"_s, u"a"_s, {u"!|a␛[2J␀b|a|"_s});
+        row("control characters", u"a\x1B[2J\u0000b"_s, u"a"_s, {u"!|a\\x1B[2J\\x00b|a|"_s});
         row("nothing to compare with", u"a"_s, {}, {});
     }
 

@@ -137,7 +137,7 @@ private slots:
         for (const StoreFinding &finding : *findings)
             lines += finding.where + u": "_s + finding.what;
         QCOMPARE(lines, (QStringList{u"Tools: 2 rows instead of one"_s, u"Combos: 0 rows instead of one"_s,
-                                     u"Dados: 2 recordings of IP 7: ␛[2J"_s}));
+                                     u"Dados: 2 recordings of IP 7: \\x1B[2J"_s}));
     }
 
     void olderStoreGetsItsTables()

@@ -284,7 +284,7 @@ private slots:
         bench.select(0);
         bench.control<QPushButton>(u"btTroca"_s)->click();
         const QString shown = bench.screen().exchange();
-        QVERIFY2(shown.startsWith(u"> pmuadc --read all\nBIST ldo2: ␛[2J\\x9B 1200\n"_s), qPrintable(shown));
+        QVERIFY2(shown.startsWith(u"> pmuadc --read all\nBIST ldo2: \\x1B[2J\\x9B 1200\n"_s), qPrintable(shown));
         QVERIFY(shown.endsWith(u"interrompida"_s));
         const auto json = QJsonDocument::fromJson(bench.screen().json()).object();
         QCOMPARE(json[u"exchange"].toArray()[0].toObject()[u"reply"].toString(), u"BIST ldo2: \x1b[2J\x9b 1200\n"_s);
