@@ -7,7 +7,7 @@ static constexpr auto kRetryInterval = 100ms;
 static constexpr int kTries = kPatience / kRetryInterval;
 
 StoreQueue::StoreQueue(QString path, Waiting waiting, QObject *parent)
-    : QObject(parent), m_path(std::move(path)), m_patience(waiting == Waiting::Blocking ? kPatience : 0s)
+    : QObject(parent), m_path(std::move(path)), m_waitingWay(waiting), m_patience(wholePatience())
 {
     m_timer.setInterval(kRetryInterval);
     connect(&m_timer, &QTimer::timeout, this, &StoreQueue::TimerStore_Timer);
@@ -19,8 +19,14 @@ void StoreQueue::TimerStore_Timer()
     work();
 }
 
+std::chrono::milliseconds StoreQueue::wholePatience() const
+{
+    return m_waitingWay == Waiting::Blocking ? kPatience : 0s;
+}
+
 void StoreQueue::finish()
 {
+    m_waitingWay = Waiting::Blocking;
     m_patience = kPatience;
     work();
 }
@@ -39,7 +45,7 @@ void StoreQueue::work()
     m_working = true;
     m_timer.stop();
     while (!m_waiting.empty()) {
-        const bool last = m_patience > 0s || m_tries >= kTries;
+        const bool last = m_waitingWay == Waiting::Blocking || m_tries >= kTries;
         if (!m_waiting.front()(last ? Try::Last : Try::Early)) {
             m_timer.start();
             break;

@@ -34,8 +34,10 @@ public:
         add([this, access, work = std::move(work), guard = QPointer<QObject>(context),
              done = std::move(done)](Try which) {
             const Result<T> result = attempt<T>(access, work);
-            if (which != Try::Last && isLocked(result))
+            const bool locked = isLocked(result);
+            if (which != Try::Last && locked)
                 return false;
+            m_patience = locked ? std::chrono::milliseconds(0) : wholePatience();
             if (guard)
                 done(result);
             return true;
@@ -70,10 +72,13 @@ private:
         return !result && result.trouble().what.key == QLatin1StringView("STORE_LOCKED");
     }
 
+    /// What one unit may wait for. Who waited in vain is told; the units behind it do not wait once more each.
+    std::chrono::milliseconds wholePatience() const;
     void add(Attempt attempt);
     void work();
 
     QString m_path;
+    Waiting m_waitingWay;
     std::chrono::milliseconds m_patience;
     std::list<Attempt> m_waiting;
     QTimer m_timer;
