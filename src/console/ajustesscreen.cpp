@@ -61,7 +61,7 @@ void AjustesScreen::select(const QString &model, const QString &command, const s
     });
 }
 
-void AjustesScreen::load()
+void AjustesScreen::load(const std::function<void()> &then)
 {
     using Rows = std::array<std::optional<KeptRecording>, 2>;
     const std::array keys = {keyOf(Side::Base), keyOf(Side::Plus)};
@@ -75,12 +75,14 @@ void AjustesScreen::load()
         }
         return rows;
     };
-    withStore<Rows>(Store::Access::Read, read, [this, keys](const Rows &rows) {
+    withStore<Rows>(Store::Access::Read, read, [this, keys, then](const Rows &rows) {
         if (keys[0].model != m_model || keys[0].command != m_command)
             return;
         m_rows = rows;
         rebuild();
         emit recordingsReplaced();
+        if (then)
+            then();
     });
 }
 
@@ -112,10 +114,11 @@ void AjustesScreen::save(const Edits &edits, const std::function<void()> &then)
 
 void AjustesScreen::btAtualizar_Click(const Edits &edits)
 {
-    save(edits, [this] {
+    const auto tellSaved = [this] { // behind the texts, for what they change is no edit
         m_saved = true;
-        load();
-    });
+        rebuild();
+    };
+    save(edits, [this, tellSaved] { load(tellSaved); });
 }
 
 void AjustesScreen::maskAndSave(Side side, const Edits &edits)
@@ -136,6 +139,18 @@ void AjustesScreen::Command2_Click()
         if (!typed.isEmpty())
             withStore<Done>(Store::Access::Write, [typed](Store &store) { return addMask(store, typed); }, {});
     });
+}
+
+void AjustesScreen::setEdited()
+{
+    if (std::exchange(m_saved, false))
+        rebuild();
+}
+
+void AjustesScreen::refuseTyping(Side side)
+{
+    if (row(side))
+        session().refuse({u"RECORDING_TOO_LONG"_s});
 }
 
 void AjustesScreen::rebuild()

@@ -42,6 +42,10 @@ public:
     void Command1_Click(const Edits &edits) { maskAndSave(Side::Base, edits); }
     void Command3_Click(const Edits &edits) { maskAndSave(Side::Plus, edits); }
     void Command2_Click();
+    /// Something is typed that is not saved.
+    void setEdited();
+    /// Something was typed into a recording that is only shown: why that is so.
+    void refuseTyping(Side side);
 
     void take(const Delivery &delivery) override { Q_UNUSED(delivery) }
     void resume() override {}
@@ -57,7 +61,7 @@ signals:
 
 private:
     RecordingKey keyOf(Side side) const;
-    void load();
+    void load(const std::function<void()> &then = {});
     void save(const Edits &edits, const std::function<void()> &then);
     void maskAndSave(Side side, const Edits &edits);
     Recording changed(Side side, const QString &text) const;

@@ -7,7 +7,14 @@
 
 #include <algorithm>
 
-static constexpr int kCommandShare = 45; ///< per cent of the width
+/// The descriptions begin in a column where the commands are not longer than most.
+static constexpr int kCommandCharacters = 28;
+
+static int commandWidth(const QFontMetrics &metrics, const QString &command)
+{
+    return std::max(metrics.averageCharWidth() * kCommandCharacters, metrics.horizontalAdvance(command)) +
+           Spacing::group;
+}
 
 void CommandDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -20,9 +27,8 @@ void CommandDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     const Theme &theme = currentTheme();
     const QRect row = option.rect.adjusted(Spacing::control, 0, -Spacing::control, 0);
-    const int wanted = item.fontMetrics.horizontalAdvance(command) + Spacing::group;
     QRect left = row;
-    left.setWidth(std::max(wanted, row.width() * kCommandShare / 100));
+    left.setWidth(commandWidth(item.fontMetrics, command));
     const QRect right = row.adjusted(left.width(), 0, 0, 0);
     painter->save();
     painter->setPen(chosen ? theme.onAccent : theme.text);
@@ -30,12 +36,14 @@ void CommandDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->setPen(chosen ? theme.onAccent : theme.dim);
     const QString told = index.data(Description).toString();
     painter->drawText(right, Qt::AlignVCenter,
-                      item.fontMetrics.elidedText(told, Qt::ElideRight, std::max(0, right.width())));
+                      item.fontMetrics.elidedText(told, Qt::ElideMiddle, std::max(0, right.width())));
     painter->restore();
 }
 
 QSize CommandDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QSize size = QStyledItemDelegate::sizeHint(option, index);
-    return {size.width(), std::max(size.height(), 6 * Spacing::unit)};
+    const int command = commandWidth(option.fontMetrics, index.data().toString());
+    const int told = option.fontMetrics.horizontalAdvance(index.data(Description).toString());
+    return {command + told + 2 * Spacing::control, std::max(size.height(), 6 * Spacing::unit)};
 }

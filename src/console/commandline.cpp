@@ -6,8 +6,12 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStandardItemModel>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +32,8 @@ CommandLine::CommandLine(const QString &name, QWidget *parent)
     completer->setMaxVisibleItems(kEntriesSeen);
     completer->popup()->setItemDelegate(new CommandDelegate(completer));
     setCompleter(completer);
+    for (QObject *keyReceiver : {static_cast<QObject *>(lineEdit()), static_cast<QObject *>(completer->popup())})
+        keyReceiver->installEventFilter(this);
     // The box would give a typed command the letter case that the list has for it.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &CommandLine::sendWanted);
@@ -46,6 +52,27 @@ void CommandLine::setCommands(const QList<CommandRow> &commands, Language langua
     }
     setCurrentIndex(-1);
     setEditText(typed);
+}
+
+/// Esc closes the list that is open; no shortcut of the window takes it before.
+bool CommandLine::eventFilter(QObject *watched, QEvent *event)
+{
+    QWidget *popup = completer()->popup();
+    if (event->type() == QEvent::ShortcutOverride && popup->isVisible() &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        event->accept();
+    if (event->type() == QEvent::Show && watched == popup)
+        widen(*popup);
+    return QComboBox::eventFilter(watched, event);
+}
+
+/// As wide as the longest row needs, as far as the screen goes.
+void CommandLine::widen(QWidget &popup) const
+{
+    const auto *list = static_cast<QAbstractItemView *>(&popup);
+    const int wanted = list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width();
+    const int room = popup.screen()->availableGeometry().right() - popup.x();
+    popup.resize(std::max(popup.width(), std::min(wanted, room)), popup.height());
 }
 
 void CommandLine::keyPressEvent(QKeyEvent *event)

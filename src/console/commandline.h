@@ -25,9 +25,12 @@ signals:
     void sendWanted();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void widen(QWidget &popup) const;
+
     QStandardItemModel *m_model;
 };

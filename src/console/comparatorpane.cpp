@@ -1,6 +1,7 @@
 #include "comparatorpane.h"
 
 #include "catalogue.h"
+#include "elidedlabel.h"
 #include "icons.h"
 #include "masterscreen.h"
 #include "readingform.h"
@@ -37,7 +38,7 @@ ComparatorPane::ComparatorPane(MasterScreen &screen, QWidget *parent)
 QWidget *ComparatorPane::head()
 {
     m_ldDispComparador = named(new QLabel, u"ldDispComparador"_s);
-    m_lbIntegridade = named(new QLabel, u"lbIntegridade"_s);
+    m_lbLinhas = named(new ElidedLabel, u"lbLinhasComparador"_s);
     m_lbAutoComparador = named(new QWidget, u"lbAutoComparador"_s);
     m_lbAutoComparadorX = named(new QLabel, u"lbAutoComparadorX"_s);
     auto *mark = controlRow(m_lbAutoComparador);
@@ -46,8 +47,8 @@ QWidget *ComparatorPane::head()
     auto *widget = new QWidget;
     auto *row = controlRow(widget);
     row->addWidget(m_ldDispComparador);
-    row->addWidget(m_lbIntegridade);
     row->addStretch();
+    row->addWidget(m_lbLinhas);
     row->addWidget(m_lbAutoComparador);
     widget->setMinimumHeight(kHeadHeight); // the mark comes and goes without moving the text
     return widget;
@@ -90,6 +91,7 @@ void ComparatorPane::connectButtons()
     connect(m_btSalvarAtualizacoes, &QPushButton::clicked, this, &ComparatorPane::saveWanted);
     connect(m_btExcluir, &QPushButton::clicked, &m_screen, &MasterScreen::btExcluir_Click);
     connect(m_command1, &QPushButton::clicked, this, &ComparatorPane::maskWanted);
+    connect(m_txtComparador, &TextPane::typedInVain, &m_screen, &MasterScreen::refuseTyping);
     connect(m_command2, &QPushButton::clicked, &m_screen, &MasterScreen::Command2_Click);
 }
 
@@ -107,6 +109,17 @@ void ComparatorPane::showRecording()
         m_txtInfoDados[i]->setEnabled(isBound);
     }
     setSaved();
+    tellShownLines();
+}
+
+void ComparatorPane::tellShownLines()
+{
+    const auto text = [this](QStringView key) { return caption(key, m_screen.session().language()); };
+    m_lbLinhas->setVisible(!m_txtComparador->showsAll());
+    m_lbLinhas->setText(text(u"%1 de %2 linhas mostradas, sem edição; “%3” guarda todas")
+                            .arg(TextPane::kLinesShown)
+                            .arg(m_txtComparador->linesOfText())
+                            .arg(text(u"Salvar texto")));
 }
 
 bool ComparatorPane::isEdited() const
@@ -138,7 +151,7 @@ void ComparatorPane::Traducao_Form()
     m_lbAutoComparadorX->setText(text(u"Auto Comparador TOOL"));
     m_lbAutoComparador->setToolTip(text(u"Auto Comparador OK"));
     m_picture->setPixmap(lineIcon(u"findings", &Theme::passInk).pixmap(kMarkSide));
-    m_lbIntegridade->setText(text(u"Gravação alterada fora do programa"));
+    tellShownLines();
     m_lbInfDados->setText(text(u"Informações sobre os dados:"));
     for (QPlainTextEdit *box : m_txtInfoDados)
         box->setAccessibleName(text(u"Informações sobre os dados:"));

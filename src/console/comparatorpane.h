@@ -6,6 +6,7 @@
 
 class MasterScreen;
 struct MasterEdits;
+class ElidedLabel;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -40,6 +41,7 @@ private:
     QWidget *notes();
     QWidget *buttons();
     void showRecording();
+    void tellShownLines();
     void connectButtons();
 
     MasterScreen &m_screen;
@@ -47,7 +49,7 @@ private:
     QWidget *m_lbAutoComparador;
     QLabel *m_picture;
     QLabel *m_lbAutoComparadorX;
-    QLabel *m_lbIntegridade;
+    ElidedLabel *m_lbLinhas;
     TextPane *m_txtComparador;
     QLabel *m_lbInfDados;
     std::array<QPlainTextEdit *, 3> m_txtInfoDados;

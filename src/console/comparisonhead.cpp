@@ -1,6 +1,7 @@
 #include "comparisonhead.h"
 
 #include "catalogue.h"
+#include "elidedlabel.h"
 #include "readingform.h"
 #include "theme.h"
 #include "verdictbadge.h"
@@ -30,13 +31,18 @@ ComparisonHead::ComparisonHead(QWidget *parent)
     m_btAnteriorDif->setArrowType(Qt::UpArrow);
     m_btProximaDif->setArrowType(Qt::DownArrow);
     m_btDiferencas->setCheckable(true);
-    auto *summary = named(new QLabel, u"lbResumo"_s);
-    summary->setTextFormat(Qt::PlainText);
-    summary->setMinimumWidth(1); // a long one is cut, it does not widen the window
+    auto *top = controlRow();
+    top->addWidget(named(new QLabel, u"lbDispositivo"_s));
+    for (const auto &name : {u"lbCorte"_s, u"lbIntegridade"_s}) {
+        auto *warning = named(new ElidedLabel, name);
+        warning->setMargin(Spacing::unit / 2);
+        top->addWidget(warning);
+    }
+    top->addStretch();
     auto *lines = new QVBoxLayout;
     lines->setSpacing(Spacing::unit);
-    lines->addWidget(named(new QLabel, u"lbDispositivo"_s));
-    lines->addWidget(summary);
+    lines->addLayout(top);
+    lines->addWidget(named(new ElidedLabel, u"lbResumo"_s));
     auto *row = controlRow(this);
     row->addWidget(m_badge);
     row->addSpacing(Spacing::control);

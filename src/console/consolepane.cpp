@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "comparatorpane.h"
+#include "elidedlabel.h"
 #include "masterscreen.h"
 #include "readingform.h"
 #include "textpane.h"
@@ -17,7 +18,7 @@ ConsolePane::ConsolePane(MasterScreen &screen, QWidget *parent)
     : QWidget(parent),
       m_screen(screen),
       m_ldDispConect(named(new QLabel, u"ldDispConect"_s)),
-      m_lbLinhas(named(new QLabel, u"lbLinhas"_s)),
+      m_lbLinhas(named(new ElidedLabel, u"lbLinhas"_s)),
       m_txtConsole(new TextPane(u"txtConsole"_s)),
       m_ckLimpar(named(new QCheckBox, u"ckLimpar"_s)),
       m_btLimpar(named(new QPushButton, u"btLimpar"_s))
@@ -38,6 +39,8 @@ ConsolePane::ConsolePane(MasterScreen &screen, QWidget *parent)
     connect(&screen, &MasterScreen::consoleStarted, this, [this] {
         if (m_ckLimpar->isChecked())
             m_txtConsole->replaceWith({});
+        else
+            m_txtConsole->addSoon(u"\r\n"_s);
     });
     connect(&screen, &MasterScreen::consoleAppended, m_txtConsole, &TextPane::addSoon);
 }
@@ -61,9 +64,12 @@ void ConsolePane::showConsole()
 
 void ConsolePane::tellShownLines()
 {
-    const QString shown = caption(u"%1 de %2 linhas mostradas; Salvar guarda todas", m_screen.session().language());
+    const auto text = [this](QStringView key) { return caption(key, m_screen.session().language()); };
     m_lbLinhas->setVisible(!m_txtConsole->showsAll());
-    m_lbLinhas->setText(shown.arg(TextPane::kLinesShown).arg(m_txtConsole->linesOfText()));
+    m_lbLinhas->setText(text(u"%1 de %2 linhas mostradas; “%3” guarda todas")
+                            .arg(TextPane::kLinesShown)
+                            .arg(m_txtConsole->linesOfText())
+                            .arg(text(u"Salvar texto")));
 }
 
 void ConsolePane::Traducao_Form()

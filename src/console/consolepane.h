@@ -4,6 +4,7 @@
 
 class MasterScreen;
 class QCheckBox;
+class ElidedLabel;
 class QLabel;
 class QPushButton;
 class TextPane;
@@ -29,7 +30,7 @@ private:
 
     MasterScreen &m_screen;
     QLabel *m_ldDispConect;
-    QLabel *m_lbLinhas;
+    ElidedLabel *m_lbLinhas;
     TextPane *m_txtConsole;
     QCheckBox *m_ckLimpar;
     QPushButton *m_btLimpar;

@@ -81,6 +81,7 @@ void MasterScreen::lbHelp_Click()
 void MasterScreen::btHelp_Click()
 {
     emit commandChosen(u"Help"_s);
+    m_mark = false;
     m_boundCommand = u"Help"_s;
     m_recording.reset();
     m_txtComparador.clear();
@@ -142,7 +143,7 @@ void MasterScreen::sendAfter(QStringView key, const QString &command)
 {
     session().boxes().ask({caption(key), caption(key)}, [this, command](Answer answer) {
         if (answer != Answer::No)
-            session().request(u"1"_s, command);
+            transmit(command);
     });
 }
 

@@ -14,6 +14,9 @@ QString MasterScreen::summary() const
     if (m_txtComparador.isEmpty())
         return caption(u"Sem gravação para comparar");
     const auto first = found.first();
+    if (!first && found.close > 0)
+        return found.close == 1 ? caption(u"Dentro da tolerância, 1 linha difere nela")
+                                : caption(u"Dentro da tolerância, %1 linhas diferem nela").arg(found.close);
     if (!first)
         return caption(m_cut ? u"Igual até onde a resposta chegou" : u"Igual à gravação");
     const QString place = caption(u"Difere primeiro em %1").arg(found.rows[*first].what());
@@ -32,6 +35,18 @@ QMap<QString, Field> MasterScreen::historyState() const
             {u"lbInfDados"_s, label}};
 }
 
+/// What makes a comparison worth less than it looks.
+QMap<QString, Field> MasterScreen::warningState() const
+{
+    const bool isChanged = m_recording && m_recording->integrity == Integrity::Changed;
+    const QString cut = caption(m_isStopped ? u"Parada antes do fim da resposta" : u"Resposta interrompida");
+    return {{u"lbCorte"_s, {.text = cut, .back = Colour::OutOfTolerance, .visible = m_cut && !m_reply.isEmpty()}},
+            {u"lbIntegridade"_s,
+             {.text = caption(u"Gravação alterada fora do programa"),
+              .back = Colour::OutOfTolerance,
+              .visible = isChanged}}};
+}
+
 QMap<QString, Field> MasterScreen::languageState() const
 {
     QMap<QString, Field> fields;
@@ -48,6 +63,7 @@ QMap<QString, Field> MasterScreen::state() const
 {
     QMap<QString, Field> fields = languageState();
     fields.insert(historyState());
+    fields.insert(warningState());
     fields[u"btSend"_s] = {.enabled = session().isReady()};
     fields[u"btParar"_s] = {.enabled = isSending()};
     fields[u"lbAutoComparador"_s] = {.visible = m_mark};
@@ -58,8 +74,6 @@ QMap<QString, Field> MasterScreen::state() const
     const QString comesTo = summary();
     fields[u"lbResumo"_s] = {.text = comesTo,
                              .tip = u"<qt>%1</qt>"_s.arg(comesTo.toHtmlEscaped())}; // cut in a narrow window
-    const bool isChanged = m_recording && m_recording->integrity == Integrity::Changed;
-    fields[u"lbIntegridade"_s] = {.visible = isChanged};
     return fields;
 }
 

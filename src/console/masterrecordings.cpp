@@ -37,8 +37,23 @@ bool MasterScreen::mayRecord()
     if (!isReply)
         session().refuse({u"REFUSED_NO_READING"_s});
     else if (m_cut)
-        session().refuse({u"REPLY_CUT"_s});
-    return isReply && !m_cut;
+        session().boxes().message({{u"NOT_RECORDED_CUT"_s}});
+    return isReply && !m_cut && mayBeStored(m_replyCommand);
+}
+
+/// An apostrophe parts texts in the queries of other programs that share the store.
+bool MasterScreen::mayBeStored(const QString &command)
+{
+    if (!command.contains(u'\''))
+        return true;
+    session().refuse({u"COMMAND_APOSTROPHE"_s});
+    return false;
+}
+
+void MasterScreen::refuseTyping()
+{
+    if (!m_boundCommand.isEmpty())
+        session().refuse({u"RECORDING_TOO_LONG"_s});
 }
 
 /// The store is looked at once more: what is recorded there is never replaced unasked.
@@ -95,6 +110,8 @@ void MasterScreen::saveEdits(const MasterEdits &edits, const std::function<void(
         return;
     const Recording recording = recordingWith(edits);
     const bool writesRecording = !m_boundCommand.isEmpty() && (m_recording || holdsAnything(recording));
+    if (writesRecording && !m_recording && !mayBeStored(m_boundCommand))
+        return;
     std::optional<CommandRow> row;
     if (const CommandRow *known = rowOf(edits.described))
         row = CommandRow{known->comando, edits.descriptions};

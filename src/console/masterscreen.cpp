@@ -20,7 +20,7 @@ MasterScreen::MasterScreen(Session &session, QObject *parent) : Screen(session, 
     connect(&session, &Session::consoleAppended, this, &MasterScreen::watchConsole);
     connect(&session, &Session::statusChanged, this, &MasterScreen::rebuild);
     connect(&session, &Session::languageChanged, this, &MasterScreen::rebuild);
-    connect(&session, &Session::portOpened, this, [this] { m_isFresh = false; });
+    connect(&session, &Session::portOpened, this, &MasterScreen::clearReadings);
     connect(&session, &Session::modelChanged, this, [this] {
         rebuild();
         if (!m_boundCommand.isEmpty())
@@ -69,15 +69,51 @@ void MasterScreen::send()
     const QString command = m_txtComandos;
     if (command.trimmed().isEmpty())
         return session().refuse({u"REFUSED_NO_COMMAND"_s});
-    m_isStreaming = false;
-    if (!session().request(kCode, command))
+    if (!transmit(command))
         return;
     m_history.add(command);
     m_longReply = std::ranges::find(kLongReplies, command.toUpper()) != kLongReplies.end();
-    m_mark = false;
     rebuild();
     if (command.toUpper() == kButtonTest)
         askToEndButtonTest();
+}
+
+bool MasterScreen::transmit(const QString &command, Way way)
+{
+    if (!(session().*way)(kCode, command))
+        return false;
+    expectReply(command);
+    return true;
+}
+
+/// From here on nothing on screen is a reply that was compared, and no recording of another command stands beside it.
+void MasterScreen::expectReply(const QString &command)
+{
+    m_isStreaming = false;
+    m_isFresh = false;
+    m_cut = false;
+    m_isStopped = false;
+    m_reply.clear();
+    if (m_boundCommand.compare(command, Qt::CaseInsensitive) != 0)
+        bind({}, {});
+    unjudge();
+}
+
+void MasterScreen::unjudge()
+{
+    m_mark = false;
+    m_comparison.forget();
+    rebuild();
+    emit differenceChanged();
+}
+
+/// Another phone may be connected. What was to be kept under its replies stays to be read.
+void MasterScreen::clearReadings()
+{
+    expectReply({});
+    if (m_erases)
+        m_txtConsole.clear();
+    emit consoleReplaced();
 }
 
 /// The phone shows the test on its own screen and answers nothing more until it is told to end it.
@@ -86,11 +122,12 @@ void MasterScreen::askToEndButtonTest()
     const QString text = caption(u"Resultado do teste estão sendo exibidos na tela do dispositio") + "\r\n"_L1 +
                          caption(u"Clique em OK para finalizar");
     const Question box{caption(u"Teste de Funcionamento de Botões"), text, Question::Choices::Ok};
-    session().boxes().ask(box, [this](Answer) { session().requestInstead(kCode, kEndOfButtonTest); });
+    session().boxes().ask(box, [this](Answer) { transmit(kEndOfButtonTest, &Session::requestInstead); });
 }
 
 void MasterScreen::btParar_Click()
 {
+    m_isStopped = isSending();
     session().stop(kCode);
 }
 
@@ -113,6 +150,7 @@ void MasterScreen::take(const Delivery &delivery)
         session().refuse({u"REPLY_CUT"_s});
     showReply(delivery);
     bind(delivery.isBound ? delivery.command : QString(), delivery.recording);
+    rebuild(); // also where the store then fails
     judgeReply();
 }
 
@@ -120,7 +158,7 @@ void MasterScreen::release(Release why, const Delivery &partial)
 {
     Q_UNUSED(why)
     m_longReply = false;
-    m_isFresh = false;
+    expectReply(partial.command);
     if (partial.reply.isEmpty())
         emit consoleReplaced();
     else
@@ -164,15 +202,17 @@ static bool same(const std::optional<KeptRecording> &one, const std::optional<Ke
 void MasterScreen::rebind(const std::function<void()> &then)
 {
     const RecordingKey key{session().knownModel(), m_boundCommand};
+    const bool mark = m_mark;
+    unjudge(); // a look-up that fails leaves nothing judged
     withStore<std::optional<KeptRecording>>(
         Store::Access::Read, [key](Store &store) { return recordingFor(store, key.model, key.command); },
-        [this, key, then](const std::optional<KeptRecording> &row) {
+        [this, key, then, mark](const std::optional<KeptRecording> &row) {
             if (key.model != session().knownModel() || key.command != m_boundCommand)
                 return;
-            if (!same(row, m_recording)) {
-                m_mark = false; // it is about the recording that was in view
+            if (same(row, m_recording))
+                m_mark = mark; // it is about the recording that is in view
+            else
                 bind(key.command, row);
-            }
             compare();
             if (then)
                 then();
@@ -182,6 +222,8 @@ void MasterScreen::rebind(const std::function<void()> &then)
 void MasterScreen::judgeReply()
 {
     withStore<QStringList>(Store::Access::Read, maskTexts, [this](const QStringList &stored) {
+        if (isSending()) // it was waited for, and the next reply is on its way
+            return;
         m_masks = withoutMarkers(stored);
         AutoComparador();
         compare();
@@ -213,6 +255,7 @@ void MasterScreen::btLimpar_Click()
 {
     m_txtConsole.clear();
     m_reply.clear();
+    m_mark = false;
     emit consoleReplaced();
     compare();
 }

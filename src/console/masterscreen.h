@@ -78,6 +78,9 @@ public:
     void Command1_Click(MasterEdits edits);
     void Command2_Click();
 
+    /// Something was typed into a recording that is only shown: why that is so.
+    void refuseTyping();
+
     /// Shows or hides the mark of a reply that stands in the recording.
     void AutoComparador();
 
@@ -104,7 +107,14 @@ signals:
     void helpWanted(const QString &text);
 
 private:
+    /// How a command goes out: behind the one before, or in its place.
+    using Way = bool (Session::*)(const QString &code, const QString &command);
+
     void send();
+    bool transmit(const QString &command, Way way = &Session::request);
+    void expectReply(const QString &command);
+    void unjudge();
+    void clearReadings();
     void askToEndButtonTest();
     void watchConsole(const QString &text);
     void showReply(const Delivery &delivery);
@@ -116,6 +126,7 @@ private:
     void rebuild();
     QMap<QString, Field> state() const;
     QMap<QString, Field> historyState() const;
+    QMap<QString, Field> warningState() const;
     QMap<QString, Field> languageState() const;
     bool isSending() const;
 
@@ -125,6 +136,7 @@ private:
 
     bool mayChangeRecording();
     bool mayRecord();
+    bool mayBeStored(const QString &command);
     void storeReply();
     void saveEdits(const MasterEdits &edits, const std::function<void()> &then = {});
     Recording recordingWith(const MasterEdits &edits) const;
@@ -140,7 +152,8 @@ private:
     QString m_reply; ///< the last one alone
     QString m_replyCommand;
     bool m_cut = false;
-    bool m_isFresh = false; ///< of the phone that is connected now
+    bool m_isStopped = false; ///< by the person, before its end
+    bool m_isFresh = false;   ///< of the phone that is connected now
     bool m_longReply = false;
     bool m_isStreaming = false;
 

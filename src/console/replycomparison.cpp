@@ -22,6 +22,12 @@ void ReplyComparison::compare(const DifferenceInput &input)
         take(difference(input));
 }
 
+void ReplyComparison::forget()
+{
+    m_isRunning = false;
+    m_found = {};
+}
+
 void ReplyComparison::take(const ReplyDifference &found)
 {
     m_isRunning = false;

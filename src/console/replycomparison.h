@@ -14,6 +14,8 @@ public:
     explicit ReplyComparison(QObject *parent = nullptr);
 
     void compare(const DifferenceInput &input);
+    /// Nothing is compared any more; what still runs does not count.
+    void forget();
     bool isRunning() const { return m_isRunning; }
     const ReplyDifference &found() const { return m_found; }
 

@@ -254,6 +254,7 @@ ReplyDifference difference(const DifferenceInput &input)
         return {};
     ReplyDifference result{.rows = rowsOf(partnersOf(input), input.tolerance)};
     result.differing = static_cast<int>(std::ranges::count_if(result.rows, &DifferenceRow::differs));
+    result.close = static_cast<int>(std::ranges::count(result.rows, DifferenceRow::Kind::Close, &DifferenceRow::kind));
     result.verdict = verdictOf(result, input.cut);
     return result;
 }

@@ -47,6 +47,7 @@ struct ReplyDifference
 {
     QList<DifferenceRow> rows;
     int differing = 0;
+    int close = 0; ///< rows that differ within the tolerance
     Verdict verdict = Verdict::None;
 
     /// The first row that differs.

@@ -98,6 +98,11 @@ QWidget *zAjustes::paneFor(Side side)
     layout->addWidget(pane.owner);
     layout->addWidget(pane.text, 1);
     layout->addLayout(foot);
+    connect(pane.text->document(), &QTextDocument::modificationChanged, &m_ajustes, [this](bool isEdited) {
+        if (isEdited)
+            m_ajustes.setEdited();
+    });
+    connect(pane.text, &TextPane::typedInVain, &m_ajustes, [this, side] { m_ajustes.refuseTyping(side); });
     connect(pane.copy, &QPushButton::clicked, this, [this, side] { copy(side); });
     return widget;
 }

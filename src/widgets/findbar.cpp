@@ -37,11 +37,7 @@ FindBar::FindBar(const QString &what, QWidget *parent)
     row->addStretch();
     row->addWidget(m_copy);
     row->addWidget(m_save);
-    connect(m_find, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (m_pane)
-            m_pane->mark(text);
-        tellHits();
-    });
+    connect(m_find, &QLineEdit::textChanged, this, &FindBar::findTyped);
     connect(m_find, &QLineEdit::returnPressed, this, [this] { find(Direction::Forwards); });
     connect(m_next, &QToolButton::clicked, this, [this] { find(Direction::Forwards); });
     connect(m_previous, &QToolButton::clicked, this, [this] { find(Direction::Backwards); });
@@ -58,11 +54,15 @@ QToolButton *FindBar::button(const QString &name)
 
 void FindBar::setPane(TextPane *pane)
 {
-    if (m_pane)
+    if (m_pane) {
         m_pane->mark({});
+        disconnect(m_pane, nullptr, this, nullptr);
+    }
     m_pane = pane;
-    if (m_pane)
+    if (m_pane) {
         m_pane->mark(m_find->text());
+        connect(m_pane, &QPlainTextEdit::textChanged, this, &FindBar::tellHits);
+    }
     tellHits();
 }
 
@@ -85,6 +85,7 @@ void FindBar::Traducao_Form(Language language, QStringView saveKey)
     }
     m_find->setPlaceholderText(caption(u"Localizar", language) + "  (Ctrl+F)"_L1);
     m_find->setAccessibleName(caption(u"Localizar", language));
+    tellHits();
 }
 
 void FindBar::begin()
@@ -101,11 +102,33 @@ void FindBar::find(Direction direction)
     if (!m_pane || m_find->text().isEmpty())
         return;
     const bool back = direction == Direction::Backwards;
-    const QTextDocument::FindFlags flags = back ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    if (!m_pane->find(m_find->text(), flags)) { // once around
-        m_pane->moveCursor(back ? QTextCursor::End : QTextCursor::Start);
-        m_pane->find(m_find->text(), flags);
-    }
+    findAround(back ? QTextDocument::FindBackward : QTextDocument::FindFlags());
+    tellHits();
+}
+
+/// The next hit, once around the text; without one the pane stays where it is.
+void FindBar::findAround(QTextDocument::FindFlags flags)
+{
+    if (m_pane->find(m_find->text(), flags))
+        return;
+    QTextCursor edge = m_pane->textCursor();
+    edge.movePosition(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
+    const QTextCursor hit = m_pane->document()->find(m_find->text(), edge, flags);
+    if (!hit.isNull())
+        m_pane->setTextCursor(hit);
+}
+
+/// What is typed is looked for at once, from where the hit of the text before begins.
+void FindBar::findTyped(const QString &text)
+{
+    if (!m_pane)
+        return;
+    m_pane->mark(text);
+    QTextCursor from = m_pane->textCursor();
+    from.setPosition(from.selectionStart());
+    m_pane->setTextCursor(from);
+    if (!text.isEmpty())
+        findAround({});
     tellHits();
 }
 

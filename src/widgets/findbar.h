@@ -3,6 +3,7 @@
 #include "language.h"
 
 #include <QPointer>
+#include <QTextDocument>
 #include <QWidget>
 
 class QLabel;
@@ -40,6 +41,8 @@ private:
 
     QToolButton *button(const QString &name);
     void find(Direction direction);
+    void findTyped(const QString &text);
+    void findAround(QTextDocument::FindFlags flags);
     void tellHits();
     void copy();
 

@@ -143,8 +143,17 @@ void TextPane::zoom(int steps)
     setFont(face);
 }
 
+/// A letter, and no key that steers.
+static bool isTyping(const QKeyEvent &event)
+{
+    const bool isPlain = (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    return isPlain && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 void TextPane::keyPressEvent(QKeyEvent *event)
 {
+    if (isReadOnly() && isTyping(*event))
+        emit typedInVain();
     if (event->matches(QKeySequence::ZoomIn) || (event->key() == Qt::Key_Equal && event->modifiers() == Qt::CTRL))
         zoom(1);
     else if (event->matches(QKeySequence::ZoomOut))

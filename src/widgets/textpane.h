@@ -32,6 +32,10 @@ public:
 
     static constexpr int kLinesShown = 4000;
 
+signals:
+    /// A text was typed that is only shown.
+    void typedInVain();
+
 public slots:
     void TimerTexto_Timer();
 

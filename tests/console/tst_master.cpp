@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -130,6 +132,7 @@ private slots:
         QCOMPARE(bench.screen.summary(), u"First departs at BIST ldo2, 1 line differs"_s);
         bench.screen.setTolerance(40);
         QCOMPARE(bench.screen.panel().verdict, Verdict::Pass);
+        QCOMPARE(bench.screen.summary(), u"Within the tolerance, 1 line differs within it"_s);
 
         bench.send(u"other"_s, "x");
         QCOMPARE(bench.screen.panel().verdict, Verdict::None);
@@ -150,8 +153,76 @@ private slots:
         QCOMPARE(bench.screen.panel().verdict, Verdict::Incomplete);
         bench.boxes.answer = Answer::Yes;
         bench.screen.btSalvar_Click();
-        QCOMPARE(bench.log, QStringList({u"REPLY_CUT"_s, u"REPLY_CUT"_s}));
+        QCOMPARE(bench.log, QStringList({u"REPLY_CUT"_s, u"NOT_RECORDED_CUT"_s}));
         QCOMPARE(bench.stored(u"pmu"_s)->dados, bare("one\ntwo"));
+        QVERIFY(bench.isShown(u"lbCorte"_s));
+        QCOMPARE(bench.screen.panel().fields[u"lbCorte"_s].text, u"Parada antes do fim da resposta"_s);
+        bench.send(u"pmu"_s, "one\ntwo");
+        QVERIFY(!bench.isShown(u"lbCorte"_s));
+    }
+
+    /// What is on its way, or another phone's, was never compared.
+    void passEndsWithItsReply()
+    {
+        const auto ask = [](ConsoleBench &bench, const QString &command) {
+            bench.screen.setCommand(command);
+            bench.port.answers = {{"part"}};
+            bench.screen.btSend_Click();
+            bench.session.Timer1_Timer();
+        };
+        const std::pair<const char *, std::function<void(ConsoleBench &)>> events[] = {
+            {"the same command", [&](ConsoleBench &bench) { ask(bench, u"SN"_s); }},
+            {"another command", [&](ConsoleBench &bench) { ask(bench, u"ver"_s); }},
+            {"shutdown",
+             [](ConsoleBench &bench) {
+                 bench.boxes.answer = Answer::Yes;
+                 bench.screen.btDesligar_Click();
+             }},
+            {"the same model comes again",
+             [](ConsoleBench &bench) {
+                 bench.session.connectOrDisconnect(u"3"_s);
+                 bench.accept("A1660");
+             }},
+            {"the line dies in a reply",
+             [&](ConsoleBench &bench) {
+                 ask(bench, u"ver"_s);
+                 bench.port.die();
+             }},
+            {"the line dies at once",
+             [&](ConsoleBench &bench) {
+                 bench.port.diesOnWrite = true;
+                 ask(bench, u"ver"_s);
+             }},
+            {"the store is damaged",
+             [](ConsoleBench &bench) {
+                 QFile file(bench.path);
+                 QVERIFY(file.open(QIODevice::WriteOnly) && file.write("garbage") > 0);
+                 file.close();
+                 bench.send(u"sn"_s, "one");
+             }},
+        };
+        for (const auto &[what, happen] : events) {
+            ConsoleBench bench;
+            bench.record({u"IP 7"_s, u"sn"_s, bare("one")});
+            bench.send(u"sn"_s, "one");
+            QVERIFY(bench.isShown(u"lbAutoComparador"_s) && bench.screen.panel().verdict == Verdict::Pass);
+            QSignalSpy emptied(&bench.screen, &MasterScreen::differenceChanged);
+            happen(bench);
+            QVERIFY2(!bench.isShown(u"lbAutoComparador"_s) && bench.screen.panel().verdict == Verdict::None, what);
+            QVERIFY2(bench.screen.difference().rows.isEmpty() && !emptied.isEmpty(), what);
+            QVERIFY2(bench.screen.txtComparador().isEmpty() || bench.screen.boundCommand() == u"sn", what);
+        }
+    }
+
+    void apostropheIsNotRecorded()
+    {
+        ConsoleBench bench;
+        bench.send(u"a'b"_s, "one");
+        bench.screen.btSalvar_Click();
+        bench.boxes.answer = Answer::Yes;
+        bench.screen.btSalvarAtualizacoes_Click({.notes = {u"nota"_s}});
+        QCOMPARE(bench.log, QStringList({u"COMMAND_APOSTROPHE"_s, u"ask Salvar"_s, u"COMMAND_APOSTROPHE"_s}));
+        QVERIFY(!bench.stored(u"a'b"_s));
     }
 
     void maskedTextsAreNoDifference()

@@ -4,6 +4,7 @@
 #include "master.h"
 #include "shell/sessionbench.h"
 #include "textpane.h"
+#include "zajustes.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -15,6 +16,8 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -104,11 +107,21 @@ private slots:
         auto &find = bench.control<QLineEdit>("txtLocalizar");
         find.setText(u"VBAT"_s);
         QCOMPARE(pane.extraSelections().size(), 2);
-        QTest::keyClick(&find, Qt::Key_Return);
+        QCOMPARE(pane.chosenHit(), 1); // gone to while it is typed
         QTest::keyClick(&find, Qt::Key_Return);
         QCOMPARE(pane.chosenHit(), 2);
         QTest::keyClick(&find, Qt::Key_Return); // once around
         QCOMPARE(pane.chosenHit(), 1);
+        const auto tells = [&](const QString &text) {
+            const auto labels = find.parentWidget()->findChildren<QLabel *>();
+            return std::ranges::any_of(labels, [&](const QLabel *label) { return label->text() == text; });
+        };
+        bench.send(u"x"_s, "nothing");
+        QVERIFY(tells(u"Data not found"_s));
+        bench.session.chooseLanguage(Language::Spanish);
+        QVERIFY(tells(u"Datos no encontrados"_s));
+        bench.send(u"x"_s, "vbat\nvbat\nvbat");
+        QVERIFY(tells(u"0 de 3"_s));
         find.clear();
         QVERIFY(pane.extraSelections().isEmpty());
     }
@@ -163,10 +176,17 @@ private slots:
     void longRepliesAreShownInPart()
     {
         FormBench bench;
+        const int least = bench.form.minimumSizeHint().width();
         QByteArray body;
         for (int line = 1; line <= 30000; ++line)
             body += "line " + QByteArray::number(line) + '\n';
         bench.send(u"x"_s, body);
+        bench.click("btSalvar");
+        QTest::keyClicks(&bench.control<TextPane>("txtComparador"), u"x"_s);
+        QCOMPARE(bench.log, QStringList{u"RECORDING_TOO_LONG"_s});
+        QVERIFY(bench.control<QLabel>("lbLinhasComparador").isVisible());
+        QVERIFY(bench.control<QLabel>("lbLinhas").text().contains(u"Save text"));
+        QCOMPARE(bench.form.minimumSizeHint().width(), least); // what is told does not push buttons off the screen
         auto &pane = bench.control<TextPane>("txtConsole");
         QCOMPARE(pane.blockCount(), TextPane::kLinesShown);
         QVERIFY(pane.toPlainText().contains(u"line 30000"));
@@ -195,6 +215,38 @@ private slots:
         QVERIFY(bench.console().size() < 100000);
         bench.session.Timer2_Timer();
         QCOMPARE(bench.console(), u"\nfirst\nsecond\n:-) "_s);
+    }
+
+    void escapeClosesTheListFirst()
+    {
+        FormBench bench;
+        bench.control<CommandLine>("txtComandos").setEditText(u"test"_s);
+        bench.port.answers = {{"one"}};
+        bench.click("btSend");
+        auto *line = bench.control<CommandLine>("txtComandos").lineEdit();
+        line->selectAll();
+        QTest::keyClicks(line, u"i2c"_s);
+        QWidget *list = bench.control<CommandLine>("txtComandos").completer()->popup();
+        QTRY_VERIFY(list->isVisible());
+        QTest::keyClick(list, Qt::Key_Escape);
+        QVERIFY(!list->isVisible());
+        QCOMPARE(bench.session.Status(), u"3"_s); // the command in flight is not stopped by it
+    }
+
+    void savedIsToldUntilSomethingIsTyped()
+    {
+        FormBench bench;
+        bench.send(u"help"_s, "one");
+        bench.click("btSalvar");
+        zAjustes form(bench.session);
+        form.CarregaDados();
+        auto *text = form.findChild<TextPane *>(u"txtConsole"_s);
+        const auto *told = form.findChild<QLabel *>(u"lbSalvo"_s);
+        QTest::keyClicks(text, u"a"_s);
+        form.findChild<QPushButton *>(u"btAtualizar"_s)->click();
+        QCOMPARE(told->text(), u"Saved "_s);
+        QTest::keyClicks(text, u"b"_s);
+        QCOMPARE(told->text(), QString());
     }
 
     void helpWindowTakesALineOver()
