@@ -2,6 +2,7 @@
 
 #include "language.h"
 #include "notice.h"
+#include "recordings.h"
 #include "replydifference.h"
 
 #include <QJsonObject>
@@ -14,8 +15,9 @@ struct Comparison
     Language language = Language::Portuguese;
     ReplyDifference difference;
     QString summary;
-    bool hasRecording = false;
-    bool mark = false; ///< the reply stands in the recording
+    std::optional<Integrity> integrity = {}; ///< of the recording; nothing when there is none
+    bool cut = false;                        ///< the reply is not whole
+    bool mark = false;                       ///< the reply stands in the recording
     QList<Notice> messages;
 };
 

@@ -40,6 +40,12 @@ void ConsoleErrand::takeReply()
         finish(ExitCode::Link);
 }
 
+void RecordErrand::refuseInVain()
+{
+    if (console().command.contains(u'\''))
+        fail({{u"COMMAND_APOSTROPHE"_s}}, ExitCode::Usage);
+}
+
 void RecordErrand::replied()
 {
     if (screen().isCut())
@@ -63,6 +69,12 @@ void RecordErrand::tellRecorded()
     finish(ExitCode::Good);
 }
 
+std::optional<Integrity> CompareErrand::integrity()
+{
+    const auto &row = screen().recording();
+    return row && !screen().txtComparador().isEmpty() ? std::optional(row->integrity) : std::nullopt;
+}
+
 void CompareErrand::replied()
 {
     const Comparison comparison{.model = session().model(),
@@ -70,7 +82,8 @@ void CompareErrand::replied()
                                 .language = language(),
                                 .difference = screen().difference(),
                                 .summary = screen().summary(),
-                                .hasRecording = !screen().txtComparador().isEmpty(),
+                                .integrity = integrity(),
+                                .cut = screen().isCut(),
                                 .mark = screen().autoComparador(),
                                 .messages = messages()};
     printOut(options().json ? document(toJson(comparison)) : readable(comparison));

@@ -44,6 +44,7 @@ public:
     using ConsoleErrand::ConsoleErrand;
 
 protected:
+    void refuseInVain() override;
     void replied() override;
 
 private:
@@ -60,4 +61,7 @@ public:
 
 protected:
     void replied() override;
+
+private:
+    std::optional<Integrity> integrity();
 };

@@ -18,6 +18,8 @@ ModelErrand::ModelErrand(CommonOptions options, const QByteArray &reply)
 void ModelErrand::start()
 {
     Errand::start();
+    if (!isFinished())
+        refuseInVain();
     if (isFinished())
         return;
     if (!m_replayed)

@@ -15,6 +15,8 @@ public:
     void start() override;
 
 protected:
+    /// Ends a command that cannot come to anything, before a phone is asked.
+    virtual void refuseInVain() {}
     void connectedToPhone() override;
     /// The model is known, or was given with the reply. Called once.
     virtual void begin() = 0;

@@ -41,13 +41,26 @@ void SendErrand::take(const Delivery &delivery)
 {
     if (delivery.reply.isEmpty())
         return fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link);
-    if (options().json)
-        printOut(document({{u"command"_s, m_command}, {u"reply"_s, delivery.reply}, {u"cut"_s, delivery.cut}}));
-    else
-        printOut(QString(delivery.reply).remove(u'\r').trimmed() + u'\n');
+    print(delivery.reply, delivery.cut);
     if (delivery.cut)
-        return fail({{u"REPLY_CUT"_s}}, ExitCode::Incomplete);
+        return fail({{m_timedOut ? u"REPLY_TIMED_OUT"_s : u"REPLY_CUT"_s}}, ExitCode::Incomplete);
     end(ExitCode::Good);
+}
+
+void SendErrand::print(const QString &reply, bool cut)
+{
+    if (options().json)
+        printOut(document({{u"command"_s, m_command}, {u"reply"_s, reply}, {u"cut"_s, cut}}));
+    else
+        printOut(QString(reply).remove(u'\r').trimmed() + u'\n');
+}
+
+/// What came until now is worth as much as if the line had died.
+void SendErrand::timedOut()
+{
+    m_timedOut = true;
+    session().stop(kConsoleCode);
+    Errand::timedOut();
 }
 
 /// A log that is not whole is no good end.
@@ -63,5 +76,5 @@ void SendErrand::release(Release why, const Delivery &partial)
 {
     Q_UNUSED(why)
     if (!partial.reply.isEmpty())
-        printOut(QString(partial.reply).remove(u'\r').trimmed() + u'\n');
+        print(partial.reply, partial.cut);
 }

@@ -23,10 +23,13 @@ public:
 
 protected:
     void connectedToPhone() override;
+    void timedOut() override;
 
 private:
+    void print(const QString &reply, bool cut);
     void end(ExitCode code);
 
     QString m_command;
     std::unique_ptr<FileLog> m_log;
+    bool m_timedOut = false;
 };

@@ -3,6 +3,7 @@
 #include "journal.h"
 #include "phoneprofile.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -281,6 +282,8 @@ private slots:
             "/no/such/log");
         add("a line that changes the phone", u"send \"syscfg add SrNm X\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
         add("the same to be compared", u"compare --command \"syscfg add\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
+        add("a command that cannot be stored", u"record --command \"a'b\" --port \"sim:IP 7\" --lang en"_s + home, 2,
+            "apostrophe");
         add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
         add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
         add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");
@@ -370,6 +373,38 @@ private slots:
         QCOMPARE(locked.code, 4);
         QCOMPARE(locked.out, QByteArray());
         QVERIFY(locked.errors.contains(path.toUtf8()));
+        other.runAll({u"ROLLBACK"_s, u"BEGIN EXCLUSIVE"_s});
+        QElapsedTimer waited;
+        waited.start();
+        QCOMPARE(atHome(u"record --command \"help nand\" --port \"sim:IP 8\""_s).code, 4);
+        QVERIFY(waited.elapsed() < 9000); // all of its look-ups wait 5 s together
+    }
+
+    void whatCameOfACutReplyIsPrinted()
+    {
+        const Outcome late = atHome(u"send Shutdown --port \"sim:IP 7\" --lang en --timeout 2"_s);
+        QCOMPARE(late.code, 5);
+        QVERIFY(late.out.startsWith("Shutdown") && late.errors.contains("time was over"));
+        const Outcome dropped = atHome(u"send \"pmuadc --read all\" --port \"sim:IP 7,drop@400\" --json"_s);
+        QCOMPARE(dropped.code, 3);
+        QVERIFY(dropped.json().value(u"cut"_s).toBool());
+        QVERIFY(dropped.json().value(u"reply"_s).toString().contains(u"BIST"));
+    }
+
+    void changedRecordingIsTold()
+    {
+        const QString options = u" --command \"pmuadc --read all\" --lang en --port \"sim:IP X,ldo2=%1\""_s;
+        QCOMPARE(atHome(u"record"_s + options.arg(1810)).code, 0);
+        const QString near = u"compare --tolerance 1"_s + options.arg(1800);
+        QVERIFY(!atHome(near).out.contains("outside the program"));
+        OtherProgram(m_home.filePath(u"Config.pmx"_s))
+            .run(u"Update Dados set Dados = replace(Dados, '1810', '1811') where Aparelho = 'IP X'"_s);
+        const QByteArray told = atHome(near).out;
+        QVERIFY(told.contains("outside the program") && told.contains("Within the tolerance, 1 line"));
+        QVERIFY(told.contains("≈") && told.contains("ldo2: 1811"));
+        const QJsonObject json = atHome(near + " --json"_L1).json();
+        QCOMPARE(json.value(u"integrity"_s).toString(), u"changed"_s);
+        QCOMPARE(atHome(u"record"_s + options.arg(1810)).code, 0); // whole again
     }
 
     void surveyIsOneTable()
