@@ -89,13 +89,18 @@ bool MasterScreen::transmit(const QString &command, Way way)
 /// From here on nothing on screen is a reply that was compared, and no recording of another command stands beside it.
 void MasterScreen::expectReply(const QString &command)
 {
+    if (m_boundCommand.compare(command, Qt::CaseInsensitive) != 0)
+        bind({}, {});
+    forgetReply();
+}
+
+void MasterScreen::forgetReply()
+{
     m_isStreaming = false;
     m_isFresh = false;
     m_cut = false;
     m_isStopped = false;
     m_reply.clear();
-    if (m_boundCommand.compare(command, Qt::CaseInsensitive) != 0)
-        bind({}, {});
     unjudge();
 }
 
@@ -107,10 +112,10 @@ void MasterScreen::unjudge()
     emit differenceChanged();
 }
 
-/// Another phone may be connected. What was to be kept under its replies stays to be read.
+/// Another phone may be connected. The recording stays: it may be in the middle of being edited.
 void MasterScreen::clearReadings()
 {
-    expectReply({});
+    forgetReply();
     if (m_erases)
         m_txtConsole.clear();
     emit consoleReplaced();

@@ -113,6 +113,7 @@ private:
     void send();
     bool transmit(const QString &command, Way way = &Session::request);
     void expectReply(const QString &command);
+    void forgetReply();
     void unjudge();
     void clearReadings();
     void askToEndButtonTest();
