@@ -3,6 +3,7 @@
 #include "commandguard.h"
 #include "json.h"
 #include "terminal.h"
+#include "visibletext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,12 +48,13 @@ void SendErrand::take(const Delivery &delivery)
     end(ExitCode::Good);
 }
 
+/// What a phone sends must not steer the terminal; a file gets the text as it came.
 void SendErrand::print(const QString &reply, bool cut)
 {
     if (options().json)
-        printOut(document({{u"command"_s, m_command}, {u"reply"_s, reply}, {u"cut"_s, cut}}));
-    else
-        printOut(QString(reply).remove(u'\r').trimmed() + u'\n');
+        return printOut(document({{u"command"_s, m_command}, {u"reply"_s, reply}, {u"cut"_s, cut}}));
+    const QString text = QString(reply).remove(u'\r').trimmed() + u'\n';
+    printOut(printsToTerminal() ? visibleText(text) : text);
 }
 
 /// What came until now is worth as much as if the line had died.

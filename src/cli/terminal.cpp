@@ -63,9 +63,14 @@ void printError(const QString &text)
     print(stderr, text + u'\n');
 }
 
+bool printsToTerminal()
+{
+    return isatty(STDOUT_FILENO) != 0;
+}
+
 bool colourWanted()
 {
-    return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR");
+    return printsToTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR");
 }
 
 static QString padded(const QString &cell, qsizetype width, Qt::Alignment alignment)

@@ -12,6 +12,9 @@ QString oneLine(const Trouble &trouble, Language language);
 void printOut(const QString &text);
 void printError(const QString &text);
 
+/// Standard output is a terminal, no file and no other program.
+bool printsToTerminal();
+
 /// True when colours may be used on standard output.
 bool colourWanted();
 
