@@ -89,7 +89,7 @@ bool MasterScreen::transmit(const QString &command, Way way)
 /// From here on nothing on screen is a reply that was compared, and no recording of another command stands beside it.
 void MasterScreen::expectReply(const QString &command)
 {
-    if (m_boundCommand.compare(command, Qt::CaseInsensitive) != 0)
+    if (!command.isEmpty() && m_boundCommand.compare(command, Qt::CaseInsensitive) != 0)
         bind({}, {});
     forgetReply();
 }

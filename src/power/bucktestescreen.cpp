@@ -181,10 +181,11 @@ QString BuckTesteScreen::unmeasured() const
     if (isReading())
         return {};
     QStringList unread;
-    QStringList untested;
     for (const Judgement &judgement : reading().judgements)
         if (judgement.verdict == Verdict::Incomplete)
-            (judgement.reading == caption(u"Não testado") ? untested : unread).append(judgement.what);
+            unread.append(judgement.what);
+    const QStringList untested = unread.mid(unread.size() - m_input.untested.size()); // they come last
+    unread.resize(unread.size() - untested.size());
     QStringList texts;
     if (!unread.isEmpty())
         texts.append(unread.join(", "_L1) + ": "_L1 + caption(u"Sem Medição"));
