@@ -96,7 +96,7 @@ struct PhoneBench
         session->load();
     }
 
-    void connectPhone()
+    void connectPhone() const
     {
         session->connectOrDisconnect(u"1"_s);
         gatherReply();

@@ -154,10 +154,11 @@ Panel readBateria(const GaugeInput &input)
     const QStringList values = isRead ? valuesOf(input.reply) : QStringList(kBatteryFacts, QString());
     for (int i = 0; i < kBatteryFacts; ++i) {
         panel.fields[element(u"Info", i)].text = values.at(i);
-        if (isRead)
+        if (isRead) {
             panel.facts.append({{{u"Dado"_s, caption(batteryFact(i), input.language).trimmed()},
                                  {u"Leitura"_s, values.at(i)},
                                  {u"Linha"_s, lineOf(input.reply, kFacts.at(static_cast<std::size_t>(i)))}}});
+        }
     }
     panel.fields[u"MedidorSaude"_s] = gauge(batteryHealth(input.reply));
     panel.fields[u"MedidorCarga"_s] = gauge(charge(input.reply));

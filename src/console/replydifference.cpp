@@ -186,11 +186,13 @@ QList<DifferenceRow> rowsOf(const Partners &partners, double tolerance)
     rows.reserve(std::max(partners.live.size(), partners.recorded.size()));
     qsizetype told = 0;
     const auto tellAlone = [&](qsizetype end) {
-        for (; told < end; ++told)
-            if (partners.ofRecorded[told] == kNone)
+        for (; told < end; ++told) {
+            if (partners.ofRecorded[told] == kNone) {
                 rows.append({.kind = DifferenceRow::Kind::OnlyRecorded,
                              .recordedNumber = partners.recorded[told].number,
                              .recorded = partners.recorded[told].text});
+            }
+        }
     };
     for (qsizetype one = 0; one < partners.live.size(); ++one) {
         const ReplyLine &line = partners.live[one];

@@ -81,11 +81,12 @@ void ReportExport::sendOrMake(const Order &order)
     session.withStore<QString>(
         Store::Access::Read, [](Store &store) { return setting(store, u"report-host"_s); }, this,
         [this, &session, order](const QString &host) {
-            if (host.isEmpty())
+            if (host.isEmpty()) {
                 m_maker.make(reportDocument(order.panel, order.head),
                              DocumentMaker::freePath(m_folder, suggestedName()), DocumentMaker::Afterwards::Open);
-            else
+            } else {
                 session.openAddress(reportAddress(host, *order.panel.report, order.head));
+            }
         });
 }
 

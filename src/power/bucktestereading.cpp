@@ -113,11 +113,12 @@ QString liveLine(const BuckResult &result, int buck, const BuckInput &input)
 /// A run that was broken off is no pass, however good its beginning was.
 void addUntested(Panel &panel, const BuckInput &input)
 {
-    for (const int buck : input.untested)
+    for (const int buck : input.untested) {
         panel.judgements.append({.what = u"buck%1"_s.arg(buck),
                                  .reading = caption(u"Não testado", input.language),
                                  .verdict = Verdict::Incomplete,
                                  .screen = u"BuckTeste"_s});
+    }
     if (!input.untested.isEmpty())
         panel.verdict = worst(panel.verdict, Verdict::Incomplete);
 }

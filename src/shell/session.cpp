@@ -138,12 +138,12 @@ void Session::offerHelpVideo()
     });
 }
 
-void Session::openDocument(const QString &path)
+void Session::openDocument(const QString &path) const
 {
     openAddress(QDir::toNativeSeparators(path));
 }
 
-void Session::openAddress(const QString &address)
+void Session::openAddress(const QString &address) const
 {
     if (m_parts.open)
         m_parts.open(address);

@@ -103,8 +103,8 @@ public:
     /// The connect button with the text of the port list.
     void connectOrDisconnect(const QString &port);
     void chooseModel(const QString &model);
-    void chooseLanguage(Language language);
-    void chooseSpeed(const QString &setting);
+    void chooseLanguage(Language chosen);
+    void chooseSpeed(const QString &chosen);
     QString speed() const { return m_speedSetting; }
 
     void attach(const QString &code, Receiver *receiver) { m_receivers.insert(code, receiver); }
@@ -121,9 +121,9 @@ public:
     /// Tells why something that was asked for was not done; no box opens for it.
     void refuse(const Notice &why) { emit refused(why); }
     /// Opens a document with the system's viewer.
-    void openDocument(const QString &path);
+    void openDocument(const QString &path) const;
     /// Opens an address, exactly as it is written.
-    void openAddress(const QString &address);
+    void openAddress(const QString &address) const;
 
     /// Runs work on the store; a failure goes to `storeFailed`, and `done` then is not called.
     template <typename T>

@@ -35,13 +35,14 @@ QList<SurveyStep> powerSteps(const QString &model)
         {.part = SurveyPart::PortChip, .command = portChipCommand(1), .code = "5"_L1, .judge = judgePortChip},
         {.part = SurveyPart::Charger, .command = kTigrisCommand, .code = "9"_L1, .judge = judgeCharger},
     };
-    if (!hasOledPanel(model)) // the OLED panel's supplies stand in the reply of the power chip
+    if (!hasOledPanel(model)) { // the OLED panel's supplies stand in the reply of the power chip
         steps.append({.part = SurveyPart::DisplayChip,
                       .command = kChestnutCommand,
                       .code = "8"_L1,
                       .judge = judgeDisplayChip,
                       .remedy = kTouchOn,
                       .needsRemedy = isTouchSupplyOff});
+    }
     return steps;
 }
 
@@ -58,13 +59,15 @@ QList<SurveyStep> batterySteps()
 QList<SurveyStep> busSteps(const QString &model)
 {
     QList<SurveyStep> steps;
-    for (int bus = 0; bus < kBuses; ++bus)
-        if (busButton(model, bus) == BusButton::Testable)
+    for (int bus = 0; bus < kBuses; ++bus) {
+        if (busButton(model, bus) == BusButton::Testable) {
             steps.append({.part = SurveyPart::Buses,
                           .command = busCommand(bus),
                           .code = "6"_L1,
                           .judge = judgeBus,
                           .index = bus});
+        }
+    }
     return steps;
 }
 
@@ -81,26 +84,29 @@ SurveyStep storageStep(SurveyPart part, NandTest test, std::chrono::milliseconds
 QList<SurveyStep> radioSteps(const QString &model)
 {
     QList<SurveyStep> steps;
-    for (int index = 0; index < kRadios; ++index)
-        if (!radio(index).isMissingOnOldest || !isSixFamily(model))
+    for (int index = 0; index < kRadios; ++index) {
+        if (!radio(index).isMissingOnOldest || !isSixFamily(model)) {
             steps.append({.part = SurveyPart::Radios,
                           .command = radio(index).commands.at(static_cast<std::size_t>(RadioAction::On)),
                           .code = "2"_L1,
                           .judge = judgeRadio,
                           .index = index});
+        }
+    }
     return steps;
 }
 
 QList<SurveyStep> memorySteps()
 {
     QList<SurveyStep> steps;
-    for (const int index : {kFullMemoryTest, kSmallMemoryTest})
+    for (const int index : {kFullMemoryTest, kSmallMemoryTest}) {
         steps.append({.part = SurveyPart::Memory,
                       .command = memoryTest(index)->command,
                       .code = "17"_L1,
                       .judge = judgeMemory,
                       .index = index,
                       .expected = 7s});
+    }
     return steps;
 }
 

@@ -210,7 +210,7 @@ private slots:
         bench.port.pull();
         QVERIFY(!bench.screen.isRunning());
         QCOMPARE(text(bench.screen.panel(), u"btAutoTeste"_s), u"Auto Teste"_s);
-        QVERIFY(ended.size() >= 1);
+        QVERIFY(!ended.isEmpty());
         bench.screen.btAutoTeste_Click();
         QVERIFY(!bench.screen.isRunning());
         QCOMPARE(text(bench.screen.panel(), u"lbAguarde"_s), u"Desconectado"_s);

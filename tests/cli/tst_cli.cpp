@@ -44,7 +44,7 @@ QByteArray replyOf(const QString &description)
     return phone ? answer(*phone, "pmuadc --read all") : QByteArray();
 }
 
-constexpr auto kJudge = "judge buckldo --kind 1 --model \"IP 7\" --reply - "_L1;
+constexpr auto kJudge = R"(judge buckldo --kind 1 --model "IP 7" --reply - )"_L1;
 
 } // namespace
 
@@ -323,7 +323,7 @@ private slots:
         QVERIFY(refused.errors.contains("--model"));
         QCOMPARE(refused.out, QByteArray());
 
-        const Outcome told = atHome(run + " --model \"IP 7\""_L1);
+        const Outcome told = atHome(run + R"( --model "IP 7")"_L1);
         QCOMPARE(told.code, 0);
         QCOMPARE(told.json().value(u"model"_s).toString(), u"IP 7"_s);
         QCOMPARE(told.json().value(u"messages"_s).toArray(),
