@@ -3,6 +3,7 @@
 #include "backups.h"
 #include "home.h"
 #include "json.h"
+#include "oddrows.h"
 #include "portlist.h"
 #include "seeds.h"
 #include "settingkeys.h"
@@ -17,6 +18,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -84,8 +87,11 @@ ExitCode listFindings(const CommonOptions &options, const QList<StoreFinding> &f
         printOut(document({{u"store"_s, storeOf(options)}, {u"findings"_s, array}}));
     else
         printOut(aligned(rows, {Qt::AlignLeft, Qt::AlignLeft}));
-    return failed(options, {{u"STORE_FINDINGS"_s,
-                             {QDir::toNativeSeparators(storeOf(options)), QString::number(findings.size())}}});
+    Trouble trouble{
+        {u"STORE_FINDINGS"_s, {QDir::toNativeSeparators(storeOf(options)), QString::number(findings.size())}}};
+    if (std::ranges::count(findings, StoreFinding::Kind::Odd, &StoreFinding::kind) > 0)
+        trouble.remedies += Notice{u"STORE_TIDY"_s};
+    return failed(options, trouble);
 }
 
 ExitCode check(const CommonOptions &options, const QString & /*none*/, const QString & /*none*/)
@@ -98,6 +104,19 @@ ExitCode check(const CommonOptions &options, const QString & /*none*/, const QSt
         return listFindings(options, *findings);
     return told(options, {u"STORE_GOOD"_s, {QDir::toNativeSeparators(path)}},
                 {{u"store"_s, path}, {u"findings"_s, QJsonArray()}});
+}
+
+// Not without a way back.
+ExitCode tidy(const CommonOptions &options, const QString & /*none*/, const QString & /*none*/)
+{
+    const Result<bool> backup = rollBackups(storeOf(options));
+    if (!backup)
+        return failed(options, backup.trouble());
+    Result<Store> store = opened(options, Store::Access::Write);
+    const Result<int> removed = store ? removeOddRows(*store) : store.trouble();
+    if (!removed)
+        return failed(options, removed.trouble());
+    return told(options, {u"STORE_TIDIED"_s, {QString::number(*removed)}}, {{u"removed"_s, *removed}});
 }
 
 QString datedBackup(const QString &path)
@@ -184,6 +203,7 @@ ExitCode get(const CommonOptions &options, const QString &key, const QString & /
 constexpr StoreCommand kStoreCommands[] = {
     {"init", "make a store from the seed tables; never touches one that exists", &init},
     {"check", "look at every page, value and recording; changes nothing", &check},
+    {"tidy", "remove the rows that check calls removable, after a backup", &tidy},
     {"backup",
      "write a consistent copy; never overwrites",
      &backUp,

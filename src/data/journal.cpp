@@ -1,6 +1,7 @@
 #include "journal.h"
 
 #include "queries.h"
+#include "storelimits.h"
 
 #include <QSqlError>
 
@@ -77,8 +78,11 @@ Result<QList<Row>> rowsOf(const Store &store, const Query &query, const QVariant
     if (!rows)
         return rows.trouble();
     QList<Row> found;
-    while (rows->next())
+    while (rows->next()) {
+        if (const Result<Done> within = rowIsWithinLimits(store, *rows); !within)
+            return within.trouble();
         found += rowAt(*rows);
+    }
     if (rows->lastError().isValid())
         return store.trouble(*rows);
     return found;

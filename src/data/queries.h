@@ -108,6 +108,25 @@ inline constexpr Query kRailMeant{"RailMeant",
     "order by (TIPO = :kind and Orig = :output) desc, rowid limit 1"};
 inline constexpr Query kWriteSlots{"WriteSlots", "Update Master set G1 = :G1, G2 = :G2, G3 = :G3 Where rowid = :id"};
 
+// What may be odd in a store from elsewhere: the row, what it is about, what it says of it; and the way to be rid of it.
+inline constexpr Query kRailModels{"RailModels", "Select rowid, Orig, Modelo from Master"};
+inline constexpr Query kDropRail{"DropRail", "Delete from Master Where rowid = :id"};
+inline constexpr Query kRailReferences{"RailReferences",
+    "Select rowid, Modelo || ' ' || TIPO || ' ' || Orig, RefV from Master Where RefV <> ''"};
+inline constexpr Query kClearReference{"ClearReference", "Update Master set RefV = '' Where rowid = :id"};
+inline constexpr Query kRfKinds{"RfKinds", "Select rowid, Modelo || ' ' || Malha, Tipo from Rf"};
+inline constexpr Query kDropRf{"DropRf", "Delete from Rf Where rowid = :id"};
+inline constexpr Query kDevicesWithId{"DevicesWithId", "Select rowid, Aparelho, i from i"};
+inline constexpr Query kDropDevice{"DropDevice", "Delete from i Where rowid = :id"};
+inline constexpr Query kTakenWithId{"TakenWithId",
+    "Select rowid, Modelo || ' ' || TIPO || ' ' || Orig, RefV from TakenReferences"};
+inline constexpr Query kDropTakenById{"DropTakenById", "Delete from TakenReferences Where rowid = :id"};
+inline constexpr Query kGoodWithId{"GoodWithId",
+    "Select rowid, Modelo || ' ' || TIPO || ' ' || Orig || ' ' || Board, Volts from GoodBoards"};
+inline constexpr Query kDropGoodById{"DropGoodById", "Delete from GoodBoards Where rowid = :id"};
+inline constexpr Query kSettingsWithId{"SettingsWithId", "Select rowid, Name, Value from Settings"};
+inline constexpr Query kDropSetting{"DropSetting", "Delete from Settings Where rowid = :id"};
+
 // Radio references and expected devices.
 inline constexpr Query kRfRows{"RfRows",
     "Select * from Rf Where Modelo = :model and Tipo = :kind order by Modelo, Malha, rowid"};

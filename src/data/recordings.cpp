@@ -1,6 +1,7 @@
 #include "recordings.h"
 
 #include "queries.h"
+#include "storelimits.h"
 
 #include <QCryptographicHash>
 #include <QHash>
@@ -113,6 +114,8 @@ Result<std::optional<KeptRecording>> recordingFor(const Store &store, const QStr
         return row.trouble();
     if (!row->has_value())
         return std::optional<KeptRecording>();
+    if (const Result<Done> within = rowIsWithinLimits(store, row->value()); !within)
+        return within.trouble();
     const Result<Hashes> hashes = hashesOf(store, kHash, keysOf(key));
     return hashes ? Result(std::optional(keptAt(row->value(), *hashes))) : hashes.trouble();
 }
@@ -152,8 +155,11 @@ Result<QList<KeptRecording>> allRecordings(const Store &store)
     if (!rows)
         return rows.trouble();
     QList<KeptRecording> kept;
-    while (rows->next())
+    while (rows->next()) {
+        if (const Result<Done> within = rowIsWithinLimits(store, *rows); !within)
+            return within.trouble();
         kept += keptAt(*rows, *hashes);
+    }
     if (rows->lastError().isValid())
         return store.trouble(*rows);
     return kept;

@@ -17,7 +17,8 @@ struct StoreFinding
         Foreign, ///< not made by this program, or made to deceive it
         Newer,   ///< made by a later version
         Damaged, ///< no longer what was written
-        Untidy   ///< usable, but not as it should be
+        Untidy,  ///< usable, but not as it should be
+        Odd      ///< a row that means nothing and can be removed
     };
 
     Kind kind = Kind::Untidy;

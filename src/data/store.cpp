@@ -4,6 +4,7 @@
 #include "schema.h"
 #include "schemacheck.h"
 #include "storefile.h"
+#include "storelimits.h"
 #include "storetrouble.h"
 
 #include <QSqlError>
@@ -102,7 +103,7 @@ Result<Done> Store::checkTables() const
         return table.trouble();
     if (!table->next())
         return storeTrouble(u"STORE_DAMAGED"_s, m_path, u"no table Master"_s);
-    return Done{};
+    return tablesAreWithinLimits(*this);
 }
 
 // Writing is tried at once, by a statement that changes no row, so that who waits for a lock, or meets a write
@@ -159,8 +160,12 @@ Result<Done> Store::rerun(QSqlQuery &query, const QVariantMap &values) const
 {
     if (query.lastError().isValid())
         return trouble(query);
-    for (auto value = values.begin(); value != values.end(); ++value)
+    const int longest = longestText(query.lastQuery());
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        if (value->toString().size() > longest) // it could not be read again
+            return storeTrouble(u"STORE_FAILED"_s, m_path, u"a text is too long to be kept"_s);
         query.bindValue(value.key(), neverNull(value.value()));
+    }
     if (!query.exec())
         return trouble(query);
     return Done{};

@@ -1,9 +1,11 @@
 #include "storeinspection.h"
 
+#include "oddrows.h"
 #include "queries.h"
 #include "quietstore.h"
 #include "recordings.h"
 #include "schema.h"
+#include "storelimits.h"
 #include "storetrouble.h"
 
 #include <QSqlError>
@@ -81,24 +83,12 @@ Result<Findings> brokenPages(const Store &store)
     return found;
 }
 
-// A reply at full speed for twenty minutes; everything else is a line or a page.
-constexpr int kLongestReply = 16 * 1024 * 1024;
-constexpr int kLongestText = 64 * 1024;
-// Some ten times what nine models and every command come to. The journal grows as long as boards are surveyed.
-constexpr int kMostRows = 20000;
-
-bool isOneOfJournal(const SchemaTable &table)
-{
-    return table.name.startsWith("Survey"_L1);
-}
-
-QString countOfStrange(const QString &column)
+QString countOfStrange(const SchemaTable &table, const QString &column)
 {
     if (isNumberColumn(column))
         return u"total(typeof(%1) not in ('integer', 'null'))"_s.arg(column);
-    const bool isReply = column == "Dados"_L1 || column == "Reply"_L1;
     return u"total(typeof(%1) not in ('text', 'null') or length(cast(%1 as blob)) > %2)"_s.arg(column).arg(
-        isReply ? kLongestReply : kLongestText);
+        longestText(table));
 }
 
 Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
@@ -106,12 +96,12 @@ Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
     const QStringList columns = columnsOf(table);
     QStringList counts{u"count(*)"_s};
     for (const QString &column : columns)
-        counts += countOfStrange(column);
+        counts += countOfStrange(table, column);
     const auto rows = rowsOf(store, u"Select %1 from %2"_s.arg(counts.join(u", "_s), table.name));
     if (!rows)
         return rows.trouble();
     Findings found;
-    if (const int count = rows->first().first().toInt(); count > kMostRows && !isOneOfJournal(table))
+    if (const int count = rows->first().first().toInt(); mostRows(table) > 0 && count > mostRows(table))
         found += {Kind::Foreign, table.name, u"has %1 rows, far too many for a store"_s.arg(count)};
     for (qsizetype column = 0; column < columns.size(); ++column) {
         if (const int count = static_cast<int>(rows->first().value(column + 1).toDouble()))
@@ -168,6 +158,17 @@ Result<Findings> repeatedRows(const Store &store)
     return found;
 }
 
+Result<Findings> findingsOfOddRows(const Store &store)
+{
+    const Result<QList<OddRow>> odd = oddRows(store);
+    if (!odd)
+        return odd.trouble();
+    Findings found;
+    for (const OddRow &row : *odd)
+        found += row.finding;
+    return found;
+}
+
 Findings closerFindings(const Store &store, StoreRole role, const Tables &tables)
 {
     if (const Findings broken = foundOr(brokenPages(store)); !broken.isEmpty())
@@ -175,7 +176,7 @@ Findings closerFindings(const Store &store, StoreRole role, const Tables &tables
     Findings found = strangeValues(store, tables);
     found += foundOr(changedRecordings(store));
     if (role == StoreRole::Reference)
-        found += foundOr(repeatedRows(store));
+        found += foundOr(repeatedRows(store)) + foundOr(findingsOfOddRows(store));
     return found;
 }
 
@@ -206,6 +207,6 @@ Result<Done> inspectStore(const QString &path, StoreRole role, Depth depth, std:
     const Result<Findings> found = storeFindings(path, role, depth, patience);
     if (!found)
         return found.trouble();
-    const auto grave = std::ranges::find_if(*found, [](const auto &one) { return one.kind != Kind::Untidy; });
+    const auto grave = std::ranges::find_if(*found, [](const auto &one) { return one.kind < Kind::Untidy; });
     return grave == found->end() ? Result(Done{}) : troubleOf(*grave, path);
 }

@@ -75,6 +75,12 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
       u"Problems found (%2) in %1\nNothing was changed. Backups are in the folder \"backups\" beside it.",
       u"Problemas encontrados (%2) en %1\nNo se modificó nada. Hay copias de seguridad en la carpeta \"backups\" al "
       u"lado."}},
+    {u"STORE_TIDY",
+     Information,
+     {u"\"prelt store tidy\" remove, depois de uma cópia de segurança, as linhas que nada significam.",
+      u"\"prelt store tidy\" removes the rows that mean nothing, after a backup.",
+      u"\"prelt store tidy\" quita, después de una copia de seguridad, las filas que nada significan."}},
+    {u"STORE_TIDIED", Information, {u"Linhas removidas: %1", u"Rows removed: %1", u"Filas eliminadas: %1"}},
     {u"STORE_BACKED_UP",
      Information,
      {u"Cópia de segurança criada: %1", u"Backup made: %1", u"Copia de seguridad creada: %1"}},

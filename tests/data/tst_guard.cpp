@@ -1,6 +1,8 @@
 #include "backups.h"
 #include "columns.h"
 #include "csv.h"
+#include "journal.h"
+#include "oddrows.h"
 #include "otherprogram.h"
 #include "queries.h"
 #include "recordings.h"
@@ -82,6 +84,93 @@ private slots:
             return;
         QCOMPARE(outcome.trouble().what.arguments.value(0), QDir::toNativeSeparators(path()));
         QVERIFY(!outcome.trouble().what.arguments.value(1).isEmpty());
+    }
+
+    // Nobody looks closely at each opening; what would keep the program busy is refused all the same.
+    void limitsHoldAtEachOpening_data()
+    {
+        columns<QString, QString>({"made", "key"});
+        const QString many = u"with recursive n(i) as (select 1 union all select i + 1 from n where i < 300000) "_s;
+        QTest::newRow("rails without end")
+            << u"Insert into Master (Modelo, TIPO, Orig) "_s + many + u"select 'IP 7', 1, i from n"_s
+            << u"STORE_FOREIGN"_s;
+        QTest::newRow("recordings without end")
+            << u"Insert into Dados (Aparelho, Comando) "_s + many + u"select 'IP 7', i from n"_s << u"STORE_FOREIGN"_s;
+        QTest::newRow("a name beyond every page")
+            << u"Update Comandos set Info = hex(zeroblob(40000)) Where rowid = 3"_s << u"STORE_FOREIGN"_s;
+        QTest::newRow("bytes without end for a number")
+            << u"Update Master set TIPO = zeroblob(70000) Where rowid = 3"_s << u"STORE_FOREIGN"_s;
+        QTest::newRow("a long text of the longest kind")
+            << u"Update Master set G1 = printf('%.*c', 65536, 'x') Where rowid = 3"_s << u"done"_s;
+        QTest::newRow("many boards") << u"Insert into Surveys (Id) "_s + many + u"select i from n where i < 30000"_s
+                                     << u"done"_s;
+    }
+
+    void limitsHoldAtEachOpening()
+    {
+        QFETCH(QString, made);
+        QVERIFY(Store::open(path(), Store::Access::Read, 0ms)); // that it was good once is no excuse
+        OtherProgram(path()).run(made);
+        QTEST(keyOf(Store::open(path(), Store::Access::Read, 0ms)), "key");
+        QTEST(keyOf(Store::open(path(), Store::Access::Write, 0ms)), "key");
+    }
+
+    void tooLongARecordingIsNotRead()
+    {
+        OtherProgram(path()).runAll(
+            {u"Insert into Dados (Aparelho, Comando, Dados) values ('IP 7', 'x', printf('%.*c', 17000000, 'x'))"_s,
+             u"Insert into Surveys (Id) values ('1')"_s,
+             u"Insert into SurveyReplies (Survey, Reply) values ('1', printf('%.*c', 17000000, 'x'))"_s});
+        const Store reader = std::move(*Store::open(path(), Store::Access::Read, 0ms));
+        QCOMPARE(keyOf(recordingFor(reader, u"IP 7"_s, u"x"_s)), u"STORE_FOREIGN"_s);
+        QCOMPARE(keyOf(allRecordings(reader)), u"STORE_FOREIGN"_s);
+        QCOMPARE(keyOf(journalEntry(reader, u"1"_s)), u"STORE_FOREIGN"_s);
+    }
+
+    // Else a phone could lock the technician out with one line.
+    void nothingIsKeptThatCouldNotBeRead()
+    {
+        Store writer = store();
+        const auto write = [&](const QString &text) {
+            return keyOf(writer.run(kWriteReading, {{u":reading"_s, text}, {u":deviation"_s, u""_s}, {u":id"_s, 1}}));
+        };
+        QCOMPARE(write(QString(70000, u'9')), u"STORE_FAILED"_s);
+        QCOMPARE(write(QString(60000, u'9')), u"done"_s);
+        QCOMPARE(keyOf(saveRecording(writer, {u"IP 7"_s, u"x"_s, QString(70000, u'9')})), u"done"_s);
+        QCOMPARE(keyOf(Store::open(path(), Store::Access::Read, 0ms)), u"done"_s);
+    }
+
+    void oddRowsAreToldAndRemoved()
+    {
+        OtherProgram other(path());
+        const QString before = other.text(u"Select (select count(*) from Master), (select count(*) from i)"_s);
+        other.runAll(
+            {u"Update Master set RefV = '1.8 volts' Where rowid = 1"_s,
+             u"Update Master set RefV = '1,8' Where rowid = 2"_s,
+             u"Insert into Master (Modelo, Orig) values ('IP 9', 'Buck0')"_s,
+             u"Insert into i (Aparelho, i) values ('IP 7', '9x75-far'), ('IP 7', 'x'), ('IP 6', '7x10-hidden')"_s,
+             u"Insert into Rf (Modelo, Malha, Tipo) values ('IP 7', 'VREG', 'Z')"_s,
+             u"Insert into TakenReferences (Modelo, TIPO, Orig, RefV) values ('IP 7', 1, 'a', 'inf')"_s,
+             u"Insert into GoodBoards (Modelo, TIPO, Orig, Board, Volts) values ('IP 7', 1, 'a', 'b', '')"_s,
+             u"Insert into Settings (Name, Value) values ('probe-address', 'file:///etc/passwd'), "
+             "('logo', '/away/logo.png'), ('nobody', 'knows')"_s});
+        QCOMPARE(keyOf(inspectStore(path(), StoreRole::Reference, Depth::Whole)), u"done"_s);
+        const auto findings = storeFindings(path(), StoreRole::Reference, Depth::Whole);
+        QStringList what;
+        for (const StoreFinding &finding : *findings)
+            what += finding.what.chopped(12);
+        QCOMPARE(what, (QStringList{u"the rail Buck0 is of no known model: IP 9"_s,
+                                    u"the reference of IP 6 2 Buck0 is no number: 1.8 volts"_s,
+                                    u"IP 7 VREG is of no known kind: Z"_s, u"IP 7 has no such bus: 9x75-far"_s,
+                                    u"IP 7 has no such bus: x"_s, u"IP 6 has no such bus: 7x10-hidden"_s,
+                                    u"the reference of IP 7 1 a is no number: inf"_s,
+                                    u"the reading of IP 7 1 a b is no number: "_s,
+                                    u"probe-address cannot be: file:///etc/passwd"_s}));
+        Store writer = store();
+        QCOMPARE(*removeOddRows(writer), 9);
+        QCOMPARE(other.text(u"Select (select count(*) from Master), (select count(*) from i)"_s), before);
+        QCOMPARE(other.text(u"Select RefV from Master Where rowid < 3"_s), u"|1,8"_s);
+        QCOMPARE(other.text(u"Select Name from Settings order by Name"_s), u"logo|nobody"_s);
     }
 
     void brokenFiles_data()
