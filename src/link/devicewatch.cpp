@@ -9,8 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kLookEvery = 1000ms;
-constexpr int kMostTicks = 60;
+constexpr auto kLookEvery = 500ms;
 
 } // namespace
 
@@ -67,7 +66,7 @@ void DeviceWatch::start()
     if (m_device.device.isEmpty())
         return;
     m_seen.reset();
-    m_ticks = 0;
+    m_isTold = false;
     m_timer.start();
 }
 
@@ -79,12 +78,9 @@ void DeviceWatch::stop()
 /// A device that is just going, or just coming, shows for a moment too: only what is there twice running has returned.
 void DeviceWatch::tick()
 {
-    const std::optional<QString> seen = whereReturned(m_device, m_others, m_ports(m_device.device));
-    if (seen && seen == std::exchange(m_seen, seen)) {
-        stop();
-        emit returned(*seen);
-    } else if (++m_ticks >= kMostTicks) {
-        stop();
-        emit givenUp();
-    }
+    const auto before = std::exchange(m_seen, whereReturned(m_device, m_others, m_ports(m_device.device)));
+    if (!m_seen || m_seen != before)
+        m_isTold = false;
+    else if (!std::exchange(m_isTold, true))
+        emit returned(QString(*m_seen)); // who hears it may start anew
 }

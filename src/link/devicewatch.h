@@ -18,7 +18,7 @@ QList<PortEntry> portsNow(const QString &device);
 /// none.
 std::optional<QString> whereReturned(const PortEntry &lost, const QSet<QString> &others, const QList<PortEntry> &now);
 
-/// Waits for a lost device to come back, for a minute.
+/// Waits for a lost device to come back, for as long as it takes.
 class DeviceWatch : public QObject
 {
     Q_OBJECT
@@ -28,19 +28,19 @@ public:
 
     /// Takes down which device was opened: once it is gone, nothing can be learned about it.
     void remember(const QString &device);
-    /// The remembered device is lost: looks for it each second from now on.
+    /// The remembered device is lost: looks for it from now on.
     void start();
     void stop();
+    /// What was told led to nothing: it is told anew as long as the device is there.
+    void tellAgain() { m_isTold = false; }
     bool isWatching() const { return m_timer.isActive(); }
 
 public slots:
     void tick();
 
 signals:
-    /// The device is there again under this name, and has been for a second: its rights are set by then.
+    /// The device is there again under this name and stays: its rights are set by then. Told once for each return.
     void returned(const QString &device);
-    /// A minute is over.
-    void givenUp();
 
 private:
     PortsNow m_ports;
@@ -48,5 +48,5 @@ private:
     PortEntry m_device;
     QSet<QString> m_others;
     std::optional<QString> m_seen;
-    int m_ticks = 0;
+    bool m_isTold = false;
 };

@@ -42,7 +42,7 @@ Inicial::Inicial(const WindowParts &parts, QWidget *parent)
       m_splitter(new QSplitter(Qt::Vertical)),
       m_btLog(new QToolButton),
       m_btReconectar(new QToolButton),
-      m_reconnector(new Reconnector(parts.session, this)),
+      m_reconnector(new Reconnector(parts.session, portsNow, this)),
       m_middle(new QHBoxLayout),
       m_emptyHint(new QLabel),
       m_findings(new FindingsPanel),

@@ -6,14 +6,27 @@
 
 using namespace Qt::StringLiterals;
 
-Reconnector::Reconnector(Session &session, QObject *parent) : QObject(parent), m_session(session)
+Reconnector::Reconnector(Session &session, PortsNow ports, QObject *parent)
+    : QObject(parent), m_session(session), m_watch(std::move(ports))
 {
-    connect(&session, &Session::portOpened, this, [this](const QString &device) {
-        withdraw();
-        m_watch.remember(device);
-    });
+    connect(&session, &Session::portOpened, this, &Reconnector::portOpened);
     connect(&session, &Session::linkLost, &m_watch, &DeviceWatch::start);
+    connect(&session, &Session::connectionSettled, this, [this] { m_isTrying = false; });
+    connect(&session, &Session::connectFailed, this, [this] {
+        if (std::exchange(m_isTrying, false)) // the Box is back before its phone
+            m_watch.start();
+    });
     connect(&m_watch, &DeviceWatch::returned, this, &Reconnector::returned);
+}
+
+/// A simulated phone that is gone does not come back, and its device may soon be somebody's terminal.
+void Reconnector::portOpened(const QString &device)
+{
+    const bool isSimulated = portAddress(m_session.port()).kind == PortAddress::Kind::Simulated;
+    m_watch.remember(isSimulated ? QString() : device);
+    m_device.clear();
+    m_isTrying = false;
+    emit withdrawn();
 }
 
 void Reconnector::returned(const QString &device)
@@ -24,19 +37,16 @@ void Reconnector::returned(const QString &device)
         Store::Access::Read, [](Store &store) { return setting(store, u"auto-reconnect"_s); }, this,
         [this](const QString &wanted) {
             if (wanted == "on"_L1)
-                reconnect();
+                connectAgain(Asked::ByItself);
         });
 }
 
-void Reconnector::reconnect()
+void Reconnector::connectAgain(Asked asked)
 {
-    if (m_session.Status() == "0"_L1 && !m_device.isEmpty())
-        m_session.connectOrDisconnect(std::exchange(m_device, {}));
-}
-
-void Reconnector::withdraw()
-{
-    m_watch.stop();
-    m_device.clear();
-    emit withdrawn();
+    if (m_session.Status() != "0"_L1 || m_device.isEmpty())
+        return;
+    m_session.reconnect(QString(m_device), asked);
+    m_isTrying = m_session.Status() != "0"_L1;
+    if (!m_isTrying) // in use, or its rights are not set yet
+        m_watch.tellAgain();
 }

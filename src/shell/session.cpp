@@ -101,9 +101,25 @@ void Session::connectOrDisconnect(const QString &port)
     if (m_status == u'1')
         disconnectNow();
     else if (m_status == u'0')
-        connectTo(portAddress(m_portText = port));
+        reconnect(port, Asked::ByPerson);
     else
         refuse({u"REFUSED_BUSY"_s});
+}
+
+void Session::reconnect(const QString &port, Asked asked)
+{
+    if (m_status != u'0')
+        return;
+    m_asked = asked;
+    connectTo(portAddress(m_portText = port));
+}
+
+void Session::tellUnconnected(const Trouble &trouble)
+{
+    if (m_asked == Asked::ByPerson)
+        m_parts.boxes.message(trouble);
+    else
+        refuse(trouble.what);
 }
 
 void Session::connectTo(const PortAddress &address)
@@ -154,7 +170,7 @@ void Session::openPort(const PortAddress &address)
     const Result<QString> device = m_parts.deviceFor(address);
     const Result<Done> opened = device ? m_parts.port.open(*device) : Result<Done>(device.trouble());
     if (!opened) {
-        m_parts.boxes.message(opened.trouble());
+        tellUnconnected(opened.trouble());
         emit connectFailed();
         return;
     }

@@ -29,6 +29,13 @@ struct Intervals
     std::optional<std::chrono::milliseconds> poll = {}; ///< instead of the speed setting's
 };
 
+/// Who is told that a connection failed: a person by a box, and where nobody pressed anything by the line alone.
+enum class Asked
+{
+    ByPerson,
+    ByItself
+};
+
 /// Whether readings, the last model and settings go to the store.
 enum class Keeping
 {
@@ -102,6 +109,8 @@ public:
 
     /// The connect button with the text of the port list.
     void connectOrDisconnect(const QString &port);
+    /// Connects unless something is connected already.
+    void reconnect(const QString &port, Asked asked);
     void chooseModel(const QString &model);
     void chooseLanguage(Language chosen);
     void chooseSpeed(const QString &chosen);
@@ -173,6 +182,7 @@ signals:
 private:
     void connectTo(const PortAddress &address);
     void offerHelpVideo();
+    void tellUnconnected(const Trouble &trouble);
     void openPort(const PortAddress &address);
     void disconnectNow();
     void showDisconnected();
@@ -225,6 +235,7 @@ private:
     int m_handshakeTicks = 0;
 
     QString m_portText;
+    Asked m_asked = Asked::ByPerson;
     QString m_txtComandos;
     QString m_txtConsole;
     QString m_code;

@@ -28,8 +28,9 @@ void Session::TimerValidaPorta_Timer()
 void Session::refuseHandshake()
 {
     m_timerValidaPorta.stop();
-    m_parts.boxes.message({{u"MSG_PORTA_NAO_RESPONDE"_s}});
-    m_parts.boxes.message({{u"MSG_PORTA"_s}});
+    tellUnconnected({{u"MSG_PORTA_NAO_RESPONDE"_s}});
+    if (m_asked == Asked::ByPerson)
+        m_parts.boxes.message({{u"MSG_PORTA"_s}});
     disconnectNow();
     emit portsWanted();
     emit connectFailed();

@@ -26,7 +26,11 @@ inline QString shown(QByteArray bytes)
 class ScriptedPort : public Port
 {
 public:
-    Result<Done> open(const QString &) override { return m_open = true, Done{}; }
+    Result<Done> open(const QString &) override
+    {
+        m_open = opens;
+        return opens ? Result<Done>(Done{}) : Result<Done>(Trouble{{u"MSG_PORTA_EM_USO"_s}});
+    }
     void close() override { m_open = false; }
     bool isOpen() const override { return m_open; }
     void write(const QByteArray &bytes) override
@@ -51,6 +55,7 @@ public:
     QList<QList<QByteArray>> answers;
     QList<QByteArray> coming;
     QList<QByteArray> journal;
+    bool opens = true;
     bool diesOnWrite = false;
 
 private:
@@ -162,6 +167,6 @@ struct SessionBench
     ScriptedBoxes boxes{log};
     StoreQueue store{path, StoreQueue::Waiting::ByTimer};
     Listener screen;
-    Session session{{port, store, boxes, [](const PortAddress &) { return u"device"_s; },
+    Session session{{port, store, boxes, [](const PortAddress &) { return u"/dev/box"_s; },
                      [this](const QString &address) { opened.append(address); }}};
 };
