@@ -1,13 +1,17 @@
 // Small things that happen often, in this process and without a display.
 
 #include "buckldoreading.h"
+#include "buckldoscreen.h"
 #include "consoletime.h"
 #include "contest.h"
 #include "figurereporter.h"
 #include "gridtime.h"
+#include "i2cscreen.h"
 #include "phoneprofile.h"
 #include "railtable.h"
+#include "replayport.h"
 #include "replydifference.h"
+#include "silentboxes.h"
 
 #include <QApplication>
 
@@ -18,6 +22,7 @@ namespace {
 
 constexpr int kRepetitions = 25;
 constexpr qsizetype kReply = 6000;
+constexpr qsizetype kFlood = 4 << 20;
 constexpr int kLines = 100'000;
 constexpr int kLongRepetitions = 5;
 
@@ -48,6 +53,37 @@ void judge(benchmark::State &state, const QString &path)
     const RailInput input{.reply = QString::fromLatin1(longReply()), .model = QString(kFullModel)};
     for (auto _ : state)
         benchmark::DoNotOptimize(readRails(buckLdoTraits(), input, rows));
+}
+
+/// From the bytes to the panel, as `prelt judge` does it.
+template <typename AnyScreen>
+void judgeReply(const QByteArray &reply, const QString &path)
+{
+    ReplayPort port(reply);
+    StoreQueue store(path, StoreQueue::Waiting::Blocking);
+    SilentBoxes boxes;
+    Session session({.port = port,
+                     .store = store,
+                     .boxes = boxes,
+                     .deviceFor = {},
+                     .intervals = {.poll = 1h},
+                     .keeping = Keeping::Nothing});
+    session.adopt(u"a saved reply"_s, QString(kFullModel));
+    AnyScreen screen(session);
+    screen.open();
+    screen.read();
+    session.Timer1_Timer();
+    if (!session.isReady() || !screen.hasReading())
+        giveUp(u"the flood was not judged"_s);
+}
+
+void judgeFlood(benchmark::State &state, const QString &path)
+{
+    const QByteArray flood = QByteArray(kFlood, '\n') + "[0A1B2C3D:00112233] :-) ";
+    for (auto _ : state) {
+        judgeReply<BuckLdoScreen>(flood, path);
+        judgeReply<I2CScreen>(flood, path);
+    }
 }
 
 void readStore(benchmark::State &state, const QString &path)
@@ -119,6 +155,9 @@ int main(int argc, char **argv)
         giveUp(u"the grid shows %1 rows"_s.arg(grid.rows()));
 
     medianOf(benchmark::RegisterBenchmark("judge a 6 kB reply against 120 rows", judge, store))->MinTime(0.02);
+    medianOf(benchmark::RegisterBenchmark("judge 4 MiB of empty lines, buses and rails", judgeFlood, store))
+        ->Repetitions(kLongRepetitions)
+        ->Iterations(1);
     medianOf(benchmark::RegisterBenchmark("prompt seen to grid painted, 120 rows", paintGrid, std::ref(grid)))
         ->UseManualTime()
         ->Iterations(4);

@@ -4,7 +4,7 @@
 #include "communication.h"
 #include "models.h"
 
-#include <QRegularExpression>
+#include <QStringTokenizer>
 
 #include <algorithm>
 #include <array>
@@ -45,10 +45,21 @@ QLatin1StringView lightCommand(int index)
     return index < 0 || index > kLastLightButton ? QLatin1StringView() : kLight.at(static_cast<std::size_t>(index));
 }
 
+static bool isDigits(QStringView text)
+{
+    return !text.isEmpty() && std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+/// Of the first line that is a width and a height, and nothing else.
 static QString resolutionIn(const QString &reply)
 {
-    static const QRegularExpression kMode(u"(?m)^\\s*([0-9]+x[0-9]+)\\s*$"_s);
-    return kMode.match(reply).captured(1);
+    for (const QStringView line : QStringTokenizer{reply, u'\n'}) {
+        const QStringView said = line.trimmed();
+        const qsizetype by = said.indexOf(u'x');
+        if (by > 0 && isDigits(said.first(by)) && isDigits(said.sliced(by + 1)))
+            return said.toString();
+    }
+    return {};
 }
 
 Panel readDisplay(const DisplayInput &input)

@@ -2,11 +2,11 @@
 
 #include "catalogue.h"
 #include "communication.h"
-
-#include <QRegularExpression>
+#include "replytext.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -55,10 +55,8 @@ Looked lookedAt(const BusDevice &device, const BusReply *reply)
 {
     if (!reply)
         return {device};
-    const QStringList lines = reply->reply.split(u'\n');
-    const auto answer = std::ranges::find_if(lines, [&](const QString &line) { return line.contains(device.key); });
-    if (answer != lines.end())
-        return {device, Presence::Answers, answer->trimmed()};
+    if (const QString line = lineWith(reply->reply, device.key); !line.isNull())
+        return {device, Presence::Answers, line};
     return {device, reply->reply.isEmpty() || reply->cut ? Presence::NoAnswer : Presence::Silent};
 }
 
@@ -231,16 +229,29 @@ QString busCommand(int bus)
     return u"i2c -s %1"_s.arg(bus);
 }
 
+/// Two digits as the phone prints them, in capitals, and no third.
+static std::optional<std::size_t> addressAt(QStringView text)
+{
+    static constexpr QStringView kDigits = u"0123456789ABCDEF";
+    if (text.size() < 2 || (text.size() > 2 && text.at(2).unicode() < 0x80 && text.at(2).isLetterOrNumber()))
+        return {};
+    const qsizetype high = kDigits.indexOf(text.at(0));
+    const qsizetype low = kDigits.indexOf(text.at(1));
+    return high < 0 || low < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(16 * high + low));
+}
+
 QList<BusDevice> answeringDevices(const BusReply &reply, const QList<BusDevice> &expected)
 {
-    static const QRegularExpression kAddress(u"0(x[0-9A-F]{2})(?![0-9A-Za-z])"_s);
     QList<BusDevice> devices;
-    for (auto found = kAddress.globalMatch(reply.reply); found.hasNext();) {
-        const QString key = found.next().captured(1);
-        const auto isKey = [&](const BusDevice &device) { return device.bus == reply.bus && device.key == key; };
-        if (std::ranges::any_of(devices, isKey))
+    std::array<bool, 0x100> isTaken{};
+    const QStringView text = reply.reply;
+    for (qsizetype place = text.indexOf(u"0x"); place >= 0; place = text.indexOf(u"0x", place + 1)) {
+        const auto address = addressAt(text.sliced(place + 2));
+        if (!address || std::exchange(isTaken.at(*address), true))
             continue;
-        const auto known = std::ranges::find_if(expected, isKey);
+        const QString key = text.sliced(place + 1, 3).toString();
+        const auto known = std::ranges::find_if(
+            expected, [&](const BusDevice &device) { return device.bus == reply.bus && device.key == key; });
         devices.append(known == expected.end() ? BusDevice{reply.bus, key, u'0' + key} : *known);
     }
     return devices;

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "communication.h"
+#include "replytext.h"
 
 #include <algorithm>
 #include <array>
@@ -72,13 +73,10 @@ Answer answerIn(const NandInput &input)
 /// The line of the reply that tells most: behind the echo, the first with a word that decides.
 QString tellingLine(const QString &reply)
 {
-    static constexpr std::array kWords = {"ERROR"_L1, "missing"_L1, "size:"_L1, "UID"_L1, "name:"_L1, "Pass"_L1};
-    const QStringList lines = reply.split(u'\n');
-    for (const QLatin1StringView word : kWords) {
-        for (const QString &line : lines)
-            if (line.contains(word))
-                return line.trimmed();
-    }
+    static constexpr std::array<QStringView, 6> kWords = {u"ERROR", u"missing", u"size:", u"UID", u"name:", u"Pass"};
+    for (const QStringView word : kWords)
+        if (const QString line = lineWith(reply, word); !line.isNull())
+            return line;
     return {};
 }
 

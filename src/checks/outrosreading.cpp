@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "communication.h"
+#include "replytext.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,7 @@ static constexpr std::array kTests = {
     MemoryTest{kSmallMemoryTest, "testmemory --1MB"_L1, u"MEM RAM Teste 1MB", u"TESTE 15s"},
 };
 
-static constexpr auto kPassed = "Pass"_L1; // of "Passed" too; capitals are another word
+static constexpr QStringView kPassed = u"Pass"; // of "Passed" too; capitals are another word
 
 const MemoryTest *memoryTest(int index)
 {
@@ -24,14 +25,16 @@ const MemoryTest *memoryTest(int index)
 /// The line with the verdict of the phone, else the last one before the prompt.
 static QString tellingLine(const QString &reply)
 {
-    QStringList lines = reply.split(u'\n');
-    for (const QLatin1StringView word : {kPassed, "FAIL"_L1}) {
-        for (const QString &line : lines)
-            if (line.contains(word))
-                return line.trimmed();
+    for (const QStringView word : {kPassed, QStringView(u"FAIL")})
+        if (const QString line = lineWith(reply, word); !line.isNull())
+            return line;
+    for (QStringView rest = QStringView(reply).trimmed(); !rest.isEmpty();) {
+        const qsizetype start = rest.lastIndexOf(u'\n') + 1;
+        if (const QStringView line = rest.sliced(start).trimmed(); !line.contains(u"] :-)"))
+            return line.toString();
+        rest = rest.first(start).trimmed();
     }
-    lines.removeIf([](const QString &line) { return line.trimmed().isEmpty() || line.contains("] :-)"_L1); });
-    return lines.isEmpty() ? QString() : lines.last().trimmed();
+    return {};
 }
 
 Panel readMemory(const MemoryInput &input)

@@ -2,8 +2,12 @@
 
 #include "catalogue.h"
 #include "communication.h"
+#include "replytext.h"
+
+#include <QStringTokenizer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -47,9 +51,11 @@ static Colour colourOf(RadioState state)
 /// The line with the marker, else the first line behind the echo.
 static QString tellingLine(int index, const QString &reply)
 {
-    const QStringList lines = reply.trimmed().split(u'\n');
-    const auto told = std::ranges::find_if(lines, [index](const QString &line) { return cameUp(index, line); });
-    return told == lines.end() ? lines.value(1).trimmed() : told->trimmed();
+    qsizetype first = reply.size();
+    for (const QLatin1StringView word : radio(index).markers)
+        if (const qsizetype place = word.isEmpty() ? -1 : reply.indexOf(word); place >= 0)
+            first = std::min(first, place);
+    return first < reply.size() ? lineAround(reply, first) : lineBehindEcho(reply);
 }
 
 static void judge(Panel &panel, const RadioInput &input)
@@ -66,12 +72,19 @@ static void judge(Panel &panel, const RadioInput &input)
                      {asked.name.toString(), isUp, input.cut, tellingLine(input.radio, input.reply), input.language});
 }
 
+/// Far more than a radio says of itself; the console holds a flood whole.
+static constexpr qsizetype kMostLines = 200'000;
+
 /// What was asked for without a judgement is shown line by line.
 static void tell(Panel &panel, const RadioInput &input)
 {
-    for (const QString &line : input.reply.trimmed().split(u'\n').mid(1))
-        if (!line.contains("] :-)"_L1))
-            panel.lines.append(line.trimmed());
+    bool isEcho = true;
+    for (const QStringView line : QStringTokenizer{QStringView(input.reply).trimmed(), u'\n'}) {
+        if (panel.lines.size() == kMostLines)
+            return panel.lines.append(u"…"_s);
+        if (!std::exchange(isEcho, false) && !line.contains(u"] :-)"))
+            panel.lines.append(line.trimmed().toString());
+    }
 }
 
 Panel readRadio(const RadioInput &input)

@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "communication.h"
 #include "models.h"
+#include "replytext.h"
 
 #include <array>
 
@@ -22,12 +23,6 @@ QString portChip(const QString &model)
     return isNewestGeneration(model) ? u"HYDRA"_s : u"TRISTAR"_s;
 }
 
-/// The first line behind the echo.
-static QString answerIn(const QString &reply)
-{
-    return reply.trimmed().section(u'\n', 1, 1).trimmed();
-}
-
 static void judge(Panel &panel, const PortChipInput &input)
 {
     const bool answers = input.reply.size() >= kShortestAnswer;
@@ -35,7 +30,7 @@ static void judge(Panel &panel, const PortChipInput &input)
     panel.fields[u"lbStatus"_s].text = communicationText(answers, input.language);
     panel.fields[u"lbIC"_s].text = chip;
     panel.fields[u"lbStatus2"_s].visible = true;
-    addCommunication(panel, {chip, answers, input.cut, answerIn(input.reply), input.language});
+    addCommunication(panel, {chip, answers, input.cut, lineBehindEcho(input.reply), input.language});
     panel.fields[u"OK"_s].text = u"OK"_s;
     panel.fields[u"NO"_s].text = caption(u"Falha", input.language);
 }
@@ -45,7 +40,7 @@ static void tellGap(Panel &panel, const PortChipInput &input)
     addFact(panel, {.what = portChip(input.model),
                     .reading = caption(u"Sem Medição", input.language),
                     .verdict = Verdict::Incomplete,
-                    .line = answerIn(input.reply)});
+                    .line = lineBehindEcho(input.reply)});
 }
 
 Panel readIC(const PortChipInput &input)

@@ -9,10 +9,15 @@ using namespace Qt::StringLiterals;
 /// Labels further back than this are not found: the phone never prints so much in one reply.
 static constexpr qsizetype kLastPosition = 32767;
 
+/// A flood without line ends is not copied for each label.
+static constexpr qsizetype kLongestLine = 4096;
+
 static QString lineAt(const QString &reply, qsizetype position)
 {
-    const qsizetype end = reply.indexOf(u'\n', position);
-    return reply.mid(position, end < 0 ? -1 : end - position).trimmed();
+    const QStringView rest = QStringView(reply).sliced(position);
+    const QStringView line = rest.first(std::min(rest.size(), kLongestLine));
+    const qsizetype end = line.indexOf(u'\n');
+    return (end < 0 ? line : line.first(end)).trimmed().toString();
 }
 
 /// Digits, one sign before and one point between or after them.
@@ -90,7 +95,8 @@ LabelledValue valueBehind(const LabelledReply &reply, const QString &label)
         return {};
     if (text.at(start - 1) != u' ') // the blank was lost, or a digit stands where it should be
         return {};
-    const qsizetype blank = text.indexOf(u' ', start);
+    const qsizetype blank =
+        start + QStringView(text).sliced(start, std::min(text.size() - start, kLongestLine)).indexOf(u' ');
     if (blank <= start || blank + 2 >= text.size())
         return {};
     const QString token = text.mid(start, blank - start);

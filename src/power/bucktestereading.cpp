@@ -4,6 +4,7 @@
 #include "catalogue.h"
 #include "numbertext.h"
 #include "railreading.h"
+#include "replytext.h"
 
 #include <algorithm>
 #include <array>
@@ -68,14 +69,6 @@ Verdict verdictOf(const BuckResult &result, bool cut)
     return cut ? Verdict::Incomplete : Verdict::Pass;
 }
 
-/// The line of the reply that was judged.
-QString sourceLine(const QString &reply)
-{
-    const QStringList lines = reply.split(u'\n');
-    const auto found = std::ranges::find_if(lines, [](const QString &line) { return line.contains("mV"_L1); });
-    return found == lines.end() ? QString() : found->trimmed();
-}
-
 Judgement judgement(const BuckReply &reply, const BuckResult &result, const BuckInput &input)
 {
     const bool isMeasured = !result.measured.isEmpty();
@@ -87,7 +80,7 @@ Judgement judgement(const BuckReply &reply, const BuckResult &result, const Buck
             .deviation = deviation ? std::optional(leadingNumber(*deviation)) : std::nullopt,
             .verdict = verdictOf(result, reply.cut),
             .screen = u"BuckTeste"_s,
-            .line = sourceLine(reply.reply)};
+            .line = lineWith(reply.reply, u"mV")};
 }
 
 /// What was recorded for the buck; a recording that somebody changed is shown and called so.

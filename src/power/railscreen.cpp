@@ -3,6 +3,7 @@
 #include "selftest.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -267,16 +268,17 @@ void RailScreen::TimerGrava_Timer()
 /// The share of the awaited lines that have come.
 void RailScreen::TimerBarra_Timer()
 {
-    const QString &console = session().txtConsole();
+    const LabelledReply console(session().txtConsole());
     qsizetype awaited = 0;
     qsizetype arrived = 0;
     for (const RailRow &row : m_rows.value(m_kind)) {
         const QString label = BistLabel(row.refT);
         awaited += label.isEmpty() ? 0 : 1;
-        arrived += !label.isEmpty() && console.contains(label) ? 1 : 0;
+        arrived += console.positionOf(label) >= 0 ? 1 : 0;
     }
-    m_progress = awaited == 0 ? 0 : static_cast<int>(100 * arrived / awaited);
-    showState();
+    const int progress = awaited == 0 ? 0 : static_cast<int>(100 * arrived / awaited);
+    if (std::exchange(m_progress, progress) != progress)
+        showState();
 }
 
 void RailScreen::blinkNote()

@@ -1,5 +1,7 @@
 #include "replycodes.h"
 
+#include <QStringTokenizer>
+
 #include <algorithm>
 #include <array>
 
@@ -35,8 +37,18 @@ const ReplyCode *replyCode(const QString &code)
     return found == kReplyCodes.end() ? nullptr : &*found;
 }
 
-QString replyForCode(const QString &code, QString reply, const QString &command)
+/// In one go: removing them one by one moves the rest of a flood each time.
+static QString without(QStringView word, const QString &reply)
+{
+    QString text;
+    text.reserve(reply.size());
+    for (const QStringView part : QStringTokenizer{reply, word})
+        text += part;
+    return text;
+}
+
+QString replyForCode(const QString &code, const QString &reply, const QString &command)
 {
     const ReplyCode *row = replyCode(code);
-    return row && row->stripsEcho && !command.isEmpty() ? reply.remove(command) : reply;
+    return row && row->stripsEcho && !command.isEmpty() ? without(command, reply) : reply;
 }

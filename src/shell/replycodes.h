@@ -23,4 +23,4 @@ inline constexpr QLatin1StringView kSurveyLongCode{"21"};
 const ReplyCode *replyCode(const QString &code);
 
 /// The reply as a screen of this code gets it.
-QString replyForCode(const QString &code, QString reply, const QString &command);
+QString replyForCode(const QString &code, const QString &reply, const QString &command);

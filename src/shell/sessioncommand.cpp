@@ -75,10 +75,23 @@ void Session::EnviaComando()
     m_parts.port.write(m_txtComandos.toLatin1() + '\r');
 }
 
+/// In one go: replacing them moves the rest of a flood again and again.
+static QString withReturns(const QString &chunk)
+{
+    QString text(chunk.size() + chunk.count(u'\n'), Qt::Uninitialized);
+    QChar *to = text.data();
+    for (const QChar c : chunk) {
+        if (c == u'\n')
+            *to++ = u'\r';
+        *to++ = c;
+    }
+    return text;
+}
+
 void Session::AdicionaDadosConsole(const QString &chunk)
 {
     m_anyByte = m_anyByte || !chunk.isEmpty();
-    const QString text = QString(chunk).replace("\n"_L1, "\r\n"_L1);
+    const QString text = withReturns(chunk);
     const qsizetype room = kMostConsole - m_txtConsole.size();
     m_cut = m_cut || text.size() > room;
     m_txtConsole += QStringView(text).first(std::min(room, text.size()));

@@ -2,6 +2,7 @@
 #include "drift.h"
 #include "labelledvalue.h"
 #include "railevaluation.h"
+#include "replytext.h"
 
 #include <QTest>
 
@@ -140,6 +141,24 @@ private slots:
             const QString noisy = line.left(bytes) + u"\r\nBIST ldo4: 900.0000 mV\r\n[0011AABB:CCDD2233] :-) "_s;
             QCOMPARE(valueBehind(noisy, u"BIST ldo3:"_s).kind, Kind::Missing);
         }
+    }
+
+    void linesOfAReply()
+    {
+        const QString reply = u"\r\necho\r\n one 7 mV\r\n\r\ntwo 8 mV"_s;
+        QCOMPARE(lineWith(reply, u"mV"), u"one 7 mV"_s);
+        QCOMPARE(lineWith(reply, u"two"), u"two 8 mV"_s); // the last one, without an end
+        QVERIFY(lineWith(reply, u"three").isNull());
+        QCOMPARE(lineAround(reply, 0), QString()); // the line end itself
+        QCOMPARE(lineBehindEcho(reply), u"one 7 mV"_s);
+        QCOMPARE(lineBehindEcho(u"echo\r\n"), QString());
+    }
+
+    void lineWithoutAnEndIsNotCopiedWhole()
+    {
+        const LabelledValue value = valueBehind(u"BIST ldo3: 1800.0000 mV "_s.repeated(10'000), u"BIST ldo3:"_s);
+        QCOMPARE(value.value, u"1.800"_s);
+        QVERIFY(value.line.size() < 5000);
     }
 
     void labelsTooFarBackAreNotFound()
