@@ -107,7 +107,8 @@ void addDevice(Panel &panel, const Looked &looked, const I2CInput &input)
                                  {u"Leitura"_s, status},
                                  {u"Falha"_s, QString(likely).replace("\r\n"_L1, " "_L1)}},
                        .verdict = verdict,
-                       .source = looked.device.source});
+                       .source = looked.device.source,
+                       .confidence = looked.device.confidence});
     if (verdict == Verdict::None)
         return;
     panel.verdict = worst(panel.verdict, verdict);
@@ -281,8 +282,10 @@ KnownGood knownGood(const I2CInput &input, const QString &source)
         expected.removeIf([&](const BusDevice &device) { return device.bus != reply.bus; });
         QList<BusDevice> devices = answeringDevices(reply, expected);
         compare(known, devices, expected);
-        for (BusDevice &device : devices)
+        for (BusDevice &device : devices) {
             device.source = source;
+            device.confidence.clear();
+        }
         known.devices += static_cast<int>(devices.size());
         known.buses.append({input.model, reply.bus, devices});
     }

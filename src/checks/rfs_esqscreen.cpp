@@ -64,7 +64,9 @@ void RFs_EsqScreen::rebuild()
     panel.screen = name();
     panel.title = caption(u"TensoesRF") + " - Tavimo Prelt"_L1;
     for (const RfRow &row : m_rows)
-        panel.rows.append({.cells = {{u"Malha"_s, row.malha}, {u"Ci"_s, row.componente}, {u"REF"_s, row.valor}}});
+        panel.rows.append({.cells = {{u"Malha"_s, row.malha}, {u"Ci"_s, row.componente}, {u"REF"_s, row.valor}},
+                           .source = row.source,
+                           .confidence = row.confidence});
     const bool hasVariants = !m_model.isEmpty() && !isSixFamily(m_model);
     show(panel, {{u"ComboAparelhos"_s, {.text = m_model, .items = modelNames()}},
                  {u"Botao1"_s, {.enabled = hasVariants, .checked = m_variant == 1}},

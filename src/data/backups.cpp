@@ -25,7 +25,7 @@ Result<Done> copyInto(const QString &path, const QString &target)
     const Result<Store> store = Store::connected(path, FileMode::Writable, 0ms);
     if (!store)
         return store.trouble();
-    if (const Result<Done> ours = schemaIsOurs(*store); !ours)
+    if (const Result<Done> ours = isReadable(*store); !ours)
         return ours;
     const auto copied = store->run(kCopyInto, {{u":file"_s, target}});
     return copied ? Result(Done{}) : copied.trouble();

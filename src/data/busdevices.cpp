@@ -8,10 +8,10 @@
 using namespace Qt::StringLiterals;
 
 /// "1x75-Charger": the bus, the key, a dash and the name.
-static BusDevice deviceFrom(const QString &text, const QString &source)
+static BusDevice deviceFrom(const QString &text)
 {
     const qsizetype dash = text.indexOf(u'-');
-    return {text.left(1).toInt(), text.mid(1, 3), dash < 0 ? QString() : text.mid(dash + 1), source};
+    return {text.left(1).toInt(), text.mid(1, 3), dash < 0 ? QString() : text.mid(dash + 1)};
 }
 
 static QString textOf(const BusDevice &device)
@@ -19,26 +19,41 @@ static QString textOf(const BusDevice &device)
     return QString::number(device.bus) + device.key + u'-' + device.name;
 }
 
-/// Where the devices are known from, by their texts. A store that was made before this was kept has no such table.
-static QMap<QString, QString> sourcesOf(const Store &store, const QString &model)
+struct Origin
 {
-    QMap<QString, QString> sources;
+    QString source;
+    QString confidence;
+};
+
+/// Where the devices are known from, by their texts.
+static Result<QMap<QString, Origin>> originsOf(const Store &store, const QString &model)
+{
     Result<QSqlQuery> query = store.run(kDeviceSources, {{u":model"_s, model}});
-    while (query && query->next())
-        sources.insert(query->value(0).toString(), query->value(1).toString());
-    return sources;
+    if (!query)
+        return query.trouble();
+    QMap<QString, Origin> origins;
+    while (query->next())
+        origins.insert(query->value(0).toString(), {query->value(1).toString(), query->value(2).toString()});
+    if (query->lastError().isValid())
+        return store.trouble(*query);
+    return origins;
 }
 
 Result<QList<BusDevice>> busDevices(const Store &store, const QString &model)
 {
-    const QMap<QString, QString> sources = sourcesOf(store, model);
+    const Result<QMap<QString, Origin>> origins = originsOf(store, model);
+    if (!origins)
+        return origins.trouble();
     Result<QSqlQuery> query = store.run(kBusDevices, {{u":model"_s, model}, {u":bus"_s, u"%"_s}});
     if (!query)
         return query.trouble();
     QList<BusDevice> devices;
     while (query->next()) {
         const QString text = query->value(u"i"_s).toString();
-        devices.append(deviceFrom(text, sources.value(text)));
+        const Origin origin = origins->value(text);
+        devices.append(deviceFrom(text));
+        devices.last().source = origin.source;
+        devices.last().confidence = origin.confidence;
     }
     if (query->lastError().isValid())
         return store.trouble(*query);
@@ -56,7 +71,7 @@ static Result<Done> replaceBus(const Store &store, const ExpectedBus &expected)
         if (const Result<QSqlQuery> added = store.run(kAddDevice, row); !added)
             return added.trouble();
         QVariantMap source = row;
-        source.insert(u":source"_s, device.source);
+        source.insert({{u":source"_s, device.source}, {u":confidence"_s, device.confidence}});
         if (const Result<QSqlQuery> added = store.run(kAddDeviceSource, source); !added)
             return added.trouble();
     }

@@ -11,7 +11,8 @@ struct BusDevice
     int bus = 0;
     QString key; ///< how the phone's scan shows it: "x1A" in "0x1A"
     QString name;
-    QString source = {}; ///< where it is known from
+    QString source = {};     ///< where it is known from
+    QString confidence = {}; ///< in that: "high", "medium", "low", or empty when not known
 
     friend bool operator==(const BusDevice &, const BusDevice &) = default;
 };

@@ -1,7 +1,8 @@
-#include "csv.h"
 #include "intoplace.h"
 #include "queries.h"
+#include "seedfilling.h"
 #include "seeds.h"
+#include "seedsources.h"
 #include "store.h"
 #include "storetrouble.h"
 
@@ -13,51 +14,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A query that takes one row of a seed table, its placeholders named like the columns.
-struct Filling
-{
-    QLatin1StringView seed;
-    const Query *query;
-    QLatin1StringView placeholders;
-    QLatin1StringView unless = {}; ///< rows of this confidence stay out
-};
-
 // A device that is expected by mistake would be called silent, so the doubtful ones are left out. A doubtful rail only
 // lends its name: it has no nominal to be judged by.
-constexpr Filling kFillings[] = {
+constexpr SeedFilling kFillings[] = {
     {"master"_L1, &kAddRail, "Modelo TIPO Orig Malha Ci RefT RefV REF"_L1},
-    {"master"_L1, &kAddRailSource, "Modelo TIPO Orig confidence source"_L1},
     {"rf"_L1, &kAddRf, "Modelo Malha Componente Valor Tipo"_L1},
     {"i2c"_L1, &kAddDevice, "Aparelho i"_L1, "low"_L1},
     {"commands"_L1, &kAddCommand, "Comando Info Info2 Info3"_L1},
 };
 
-Result<Done> fill(const Store &store, const Filling &filling)
-{
-    const SeedTable table = seedTable(filling.seed);
-    const QStringList columns = QString(filling.placeholders).split(u' ');
-    QSqlQuery add = store.prepared(*filling.query);
-    for (const QStringList &row : table.rows) {
-        if (!filling.unless.isEmpty() && table.cell(row, u"confidence") == filling.unless)
-            continue;
-        QVariantMap values;
-        for (const QString &column : columns)
-            values.insert(u':' + column, table.cell(row, column));
-        if (const Result<Done> added = store.rerun(add, values); !added)
-            return added;
-    }
-    return Done{};
-}
-
 Result<Done> fillAll(const Store &store)
 {
-    for (const Filling &filling : kFillings)
-        if (const Result<Done> filled = fill(store, filling); !filled)
-            return filled;
+    if (const Result<Done> filled = fillFromSeeds(store, kFillings); !filled)
+        return filled;
     for (const Query *row : {&kAddTools, &kAddCombos})
         if (const Result<QSqlQuery> added = store.run(*row); !added)
             return added.trouble();
-    return Done{};
+    return takeSeedSources(store);
 }
 
 Result<Done> build(const QString &emptyFile)

@@ -1,5 +1,6 @@
 #include "goodboards.h"
 
+#include "newuuid.h"
 #include "queries.h"
 
 #include <QSqlError>
@@ -10,9 +11,6 @@ static constexpr int kVoltDecimals = 4;
 
 Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model)
 {
-    const Result<bool> isKept = store.hasTable(u"GoodBoards"_s);
-    if (!isKept || !*isKept)
-        return isKept ? Result(QList<GoodReading>()) : isKept.trouble();
     Result<QSqlQuery> query = store.run(kGoodReadings, {{u":model"_s, model}});
     if (!query)
         return query.trouble();
@@ -59,6 +57,8 @@ static Result<Done> addReading(const Store &store, const QString &model, const G
                     {u":kind"_s, reading.tipo},
                     {u":output"_s, reading.orig},
                     {u":board"_s, reading.board},
+                    {u":uuid"_s, newUuid()},
+                    {u":serial"_s, reading.board.section(u' ', 2)}, // behind day and time
                     {u":volts"_s, QString::number(reading.volts, 'f', kVoltDecimals)}});
 }
 

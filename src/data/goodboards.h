@@ -29,8 +29,7 @@ struct TakenReference
     friend bool operator==(const TakenReference &, const TakenReference &) = default;
 };
 
-/// The readings of every good board of a model, in the order in which they were taken. A store that was made before
-/// this was kept has none.
+/// The readings of every good board of a model, in the order in which they were taken.
 Result<QList<GoodReading>> goodReadings(const Store &store, const QString &model);
 
 /// What becomes of the boards of a model.

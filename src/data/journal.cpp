@@ -1,5 +1,6 @@
 #include "journal.h"
 
+#include "newuuid.h"
 #include "queries.h"
 #include "storelimits.h"
 
@@ -10,14 +11,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kYes = "1"_L1;
-/// Of the journal's tables the one that is made last: where it is, the others are.
-constexpr auto kLastTable = "SurveyFindings"_L1;
 
 QVariantMap rowOf(const JournalSurvey &survey)
 {
     return {{u":id"_s, survey.id},           {u":started"_s, survey.started}, {u":ended"_s, survey.ended},
             {u":outcome"_s, survey.outcome}, {u":model"_s, survey.model},     {u":serial"_s, survey.serial},
-            {u":port"_s, survey.port},       {u":name"_s, survey.name},       {u":note"_s, survey.note}};
+            {u":port"_s, survey.port},       {u":name"_s, survey.name},       {u":note"_s, survey.note},
+            {u":noteUuid"_s, newUuid()}};
 }
 
 /// Places are texts in the store, so that they are all of one length.
@@ -43,7 +43,8 @@ QVariantMap rowOf(const QString &id, const JournalFinding &finding)
             {u":lowest"_s, finding.lowest},
             {u":highest"_s, finding.highest},
             {u":verdict"_s, finding.verdict},
-            {u":line"_s, finding.line}};
+            {u":line"_s, finding.line},
+            {u":uuid"_s, newUuid()}};
 }
 
 QString text(const QSqlQuery &row, const char16_t *column)
@@ -104,7 +105,12 @@ Result<Done> writeEntry(const Store &store, const JournalEntry &entry)
         return survey.trouble();
     if (const Result<Done> written = writeAll(store, kKeepSurveyReply, entry.survey.id, entry.replies); !written)
         return written;
-    return writeAll(store, kKeepSurveyFinding, entry.survey.id, entry.findings);
+    if (const Result<Done> written = writeAll(store, kKeepSurveyFinding, entry.survey.id, entry.findings); !written)
+        return written;
+    const auto board = store.run(
+        kSetBoardOfFindings,
+        {{u":id"_s, entry.survey.id}, {u":model"_s, entry.survey.model}, {u":serial"_s, entry.survey.serial}});
+    return board ? Result(Done{}) : board.trouble();
 }
 
 } // namespace
@@ -120,18 +126,12 @@ Result<Done> keepInJournal(Store &store, const JournalEntry &entry)
 
 Result<QList<JournalSurvey>> journal(const Store &store, const QString &search)
 {
-    const Result<bool> there = store.hasTable(kLastTable);
-    if (!there || !*there)
-        return there ? Result(QList<JournalSurvey>()) : there.trouble();
     return rowsOf(store, kSurveys, {{u":pattern"_s, likePattern(u'*' + search + u'*')}}, &surveyAt);
 }
 
 Result<std::optional<JournalEntry>> journalEntry(const Store &store, const QString &id)
 {
     using Entry = std::optional<JournalEntry>;
-    const Result<bool> there = store.hasTable(kLastTable);
-    if (!there || !*there)
-        return there ? Result(Entry()) : there.trouble();
     const QVariantMap values{{u":id"_s, id}};
     const auto surveys = rowsOf(store, kSurvey, values, &surveyAt);
     if (!surveys || surveys->isEmpty())
@@ -145,7 +145,7 @@ Result<std::optional<JournalEntry>> journalEntry(const Store &store, const QStri
 
 Result<Done> setJournalNote(Store &store, const QString &id, const QString &note)
 {
-    const auto set = store.run(kSetSurveyNote, {{u":id"_s, id}, {u":note"_s, note}});
+    const auto set = store.run(kSetSurveyNote, {{u":id"_s, id}, {u":note"_s, note}, {u":uuid"_s, newUuid()}});
     return set ? Result(Done{}) : set.trouble();
 }
 

@@ -70,9 +70,6 @@ constexpr OddKind kKinds[] = {
 
 Result<QList<OddRow>> oddRows(const Store &store, const OddKind &kind)
 {
-    const Result<bool> isThere = store.hasTable(kind.table);
-    if (!isThere || !*isThere)
-        return isThere ? Result(QList<OddRow>()) : isThere.trouble();
     Result<QSqlQuery> rows = store.run(*kind.rows);
     if (!rows)
         return rows.trouble();

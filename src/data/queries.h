@@ -31,9 +31,7 @@ inline constexpr Query kStoreIds{"StoreIds",
     "Select application_id, user_version from pragma_application_id, pragma_user_version"};
 inline constexpr Query kColumnsOfTables{"ColumnsOfTables",
     "Select m.name as TableName, c.name as ColumnName, c.type as Type, c.hidden as Hidden "
-    "from sqlite_master m join pragma_table_xinfo(m.name) c Where m.type = 'table'"};
-inline constexpr Query kHasTable{"HasTable",
-    "Select 1 from sqlite_master Where type = 'table' and name = :table collate nocase"};
+    "from sqlite_master m join pragma_table_xinfo(m.name, 'main') c Where m.type = 'table'"};
 inline constexpr Query kIntegrity{"Integrity", "PRAGMA integrity_check(20)"};
 // A copy without a moment at which it was half: it is read in one go, tree by tree, so damage shows here too.
 inline constexpr Query kCopyInto{"CopyInto", "VACUUM INTO :file"};
@@ -91,7 +89,8 @@ inline constexpr Query kAddTaken{"AddTaken",
 inline constexpr Query kGoodReadings{"GoodReadings",
     "Select TIPO, Orig, Board, Volts from GoodBoards Where Modelo = :model order by Board, rowid"};
 inline constexpr Query kAddGoodReading{"AddGoodReading",
-    "Insert into GoodBoards (Modelo, TIPO, Orig, Board, Volts) values (:model, :kind, :output, :board, :volts)"};
+    "Insert into GoodBoards (Modelo, TIPO, Orig, Board, Volts, Uuid, Serial) "
+    "values (:model, :kind, :output, :board, :volts, :uuid, :serial)"};
 inline constexpr Query kDropGoodBoard{"DropGoodBoard",
     "Delete from GoodBoards Where Modelo = :model and Board = :board"};
 // Rows that are empty already stay untouched: a store with nothing to clear is not written.
@@ -129,17 +128,19 @@ inline constexpr Query kDropSetting{"DropSetting", "Delete from Settings Where r
 
 // Radio references and expected devices.
 inline constexpr Query kRfRows{"RfRows",
-    "Select * from Rf Where Modelo = :model and Tipo = :kind order by Modelo, Malha, rowid"};
+    "Select Rf.*, Confidence, Source from Rf left join RfSources s on s.Modelo = Rf.Modelo and s.Malha = Rf.Malha "
+    "and s.Componente = Rf.Componente and s.Tipo = Rf.Tipo Where Rf.Modelo = :model and Rf.Tipo = :kind "
+    "order by Rf.Modelo, Rf.Malha, Rf.rowid"};
 inline constexpr Query kBusDevices{"BusDevices",
     R"(Select * from i Where Aparelho = :model and i like :bus escape '\')"};
 inline constexpr Query kDeviceSources{"DeviceSources",
-    "Select i, Source from DeviceSources Where Aparelho = :model"};
+    "Select i, Source, Confidence from DeviceSources Where Aparelho = :model"};
 inline constexpr Query kDropBusDevices{"DropBusDevices",
     R"(Delete from i Where Aparelho = :model and i like :bus escape '\')"};
 inline constexpr Query kDropBusSources{"DropBusSources",
     R"(Delete from DeviceSources Where Aparelho = :model and i like :bus escape '\')"};
 inline constexpr Query kAddDeviceSource{"AddDeviceSource",
-    "Insert into DeviceSources (Aparelho, i, Source) values (:Aparelho, :i, :source)"};
+    "Insert into DeviceSources (Aparelho, i, Source, Confidence) values (:Aparelho, :i, :source, :confidence)"};
 
 // Commands, recordings and masked texts.
 inline constexpr Query kCommands{"Commands",
@@ -183,6 +184,15 @@ inline constexpr Query kSetHash{"SetHash",
     "on conflict (Aparelho, Comando) do update set Sha256 = excluded.Sha256"};
 inline constexpr Query kDeleteHash{"DeleteHash",
     "Delete from RecordingHash Where Aparelho = :model and Comando = :command"};
+// A recording is known by its reply: another reply is another recording, another note is not.
+inline constexpr Query kDropRecordingId{"DropRecordingId",
+    "Delete from RecordingIds Where Aparelho = :model and Comando = :command and not exists (Select 1 from Dados d "
+    "Where d.Aparelho = :model and d.Comando = :command and cast(d.Dados as blob) = cast(:Dados as blob))"};
+inline constexpr Query kAddRecordingId{"AddRecordingId",
+    "Insert into RecordingIds (Aparelho, Comando, Uuid) values (:model, :command, :uuid) "
+    "on conflict (Aparelho, Comando) do nothing"};
+inline constexpr Query kDeleteRecordingId{"DeleteRecordingId",
+    "Delete from RecordingIds Where Aparelho = :model and Comando = :command"};
 inline constexpr Query kMasks{"Masks",
     "Select * from M"};
 inline constexpr Query kMasksDescending{"MasksDescending",
@@ -234,20 +244,27 @@ inline constexpr Query kSurveyReplies{"SurveyReplies",
 inline constexpr Query kSurveyFindings{"SurveyFindings",
     "Select * from SurveyFindings Where Survey = :id order by rowid"};
 inline constexpr Query kKeepSurvey{"KeepSurvey",
-    "Insert into Surveys (Id, Started, Ended, Outcome, Model, Serial, Port, Name, Note) "
-    "values (:id, :started, :ended, :outcome, :model, :serial, :port, :name, :note) "
+    "Insert into Surveys (Id, Started, Ended, Outcome, Model, Serial, Port, Name, Note, NoteUuid) "
+    "values (:id, :started, :ended, :outcome, :model, :serial, :port, :name, :note, "
+    "case when :note = '' then '' else :noteUuid end) "
     "on conflict (Id) do update set Ended = excluded.Ended, Outcome = excluded.Outcome, Serial = excluded.Serial"};
 inline constexpr Query kKeepSurveyReply{"KeepSurveyReply",
     "Insert or replace into SurveyReplies (Survey, Place, Command, Reply, Cut) "
     "values (:id, :place, :command, :reply, :cut)"};
 inline constexpr Query kKeepSurveyFinding{"KeepSurveyFinding",
     "Insert into SurveyFindings (Survey, Output, What, Screens, Reading, Reference, Source, Deviation, Lowest, Highest, "
-    "Verdict, Line) values (:id, :output, :what, :screens, :reading, :reference, :source, :deviation, :lowest, "
-    ":highest, :verdict, :line) on conflict (Survey, Output) do update set What = excluded.What, "
+    "Verdict, Line, Uuid) values (:id, :output, :what, :screens, :reading, :reference, :source, :deviation, :lowest, "
+    ":highest, :verdict, :line, :uuid) on conflict (Survey, Output) do update set What = excluded.What, "
     "Screens = excluded.Screens, Reading = excluded.Reading, Reference = excluded.Reference, Source = excluded.Source, "
     "Deviation = excluded.Deviation, Lowest = excluded.Lowest, Highest = excluded.Highest, "
     "Verdict = excluded.Verdict, Line = excluded.Line"};
-inline constexpr Query kSetSurveyNote{"SetSurveyNote", "Update Surveys set Note = :note Where Id = :id"};
+// The phone may tell its serial number after the first findings.
+inline constexpr Query kSetBoardOfFindings{"SetBoardOfFindings",
+    "Update SurveyFindings set Model = :model, Serial = :serial "
+    "Where Survey = :id and (Model <> :model or Serial <> :serial)"};
+inline constexpr Query kSetSurveyNote{"SetSurveyNote",
+    "Update Surveys set Note = :note, NoteUuid = case when :note = '' then '' when NoteUuid = '' then :uuid "
+    "else NoteUuid end Where Id = :id"};
 inline constexpr Query kDeleteSurvey{"DeleteSurvey", "Delete from Surveys Where Id = :id"};
 inline constexpr Query kDeleteSurveyReplies{"DeleteSurveyReplies", "Delete from SurveyReplies Where Survey = :id"};
 inline constexpr Query kDeleteSurveyFindings{"DeleteSurveyFindings", "Delete from SurveyFindings Where Survey = :id"};
@@ -256,9 +273,18 @@ inline constexpr Query kDeleteSurveyFindings{"DeleteSurveyFindings", "Delete fro
 inline constexpr Query kAddRail{"AddRail",
     "Insert into Master (Modelo, TIPO, Orig, Malha, Ci, RefT, RefV, REF) "
     "values (:Modelo, :TIPO, :Orig, :Malha, :Ci, :RefT, :RefV, :REF)"};
+// A row that is still as it shipped has the source that it shipped with.
 inline constexpr Query kAddRailSource{"AddRailSource",
-    "Insert into RailSources (Modelo, TIPO, Orig, Confidence, Source) "
-    "values (:Modelo, :TIPO, :Orig, :confidence, :source)"};
+    "Insert or ignore into RailSources (Modelo, TIPO, Orig, Confidence, Source) "
+    "Select :Modelo, :TIPO, :Orig, :confidence, :source Where exists (Select 1 from Master Where Modelo = :Modelo "
+    "and TIPO = :TIPO and Orig = :Orig and Malha = :Malha and RefV = :RefV)"};
+inline constexpr Query kAddRfSource{"AddRfSource",
+    "Insert or ignore into RfSources (Modelo, Malha, Componente, Tipo, Confidence, Source) "
+    "Select :Modelo, :Malha, :Componente, :Tipo, :confidence, :source Where exists (Select 1 from Rf "
+    "Where Modelo = :Modelo and Malha = :Malha and Componente = :Componente and Valor = :Valor and Tipo = :Tipo)"};
+inline constexpr Query kAddSeedDeviceSource{"AddSeedDeviceSource",
+    "Insert or ignore into DeviceSources (Aparelho, i, Confidence, Source) "
+    "Select :Aparelho, :i, :confidence, :source Where exists (Select 1 from i Where Aparelho = :Aparelho and i = :i)"};
 inline constexpr Query kAddRf{"AddRf",
     "Insert into Rf (Modelo, Malha, Componente, Valor, Tipo) values (:Modelo, :Malha, :Componente, :Valor, :Tipo)"};
 inline constexpr Query kAddDevice{"AddDevice", "Insert into i (Aparelho, i) values (:Aparelho, :i)"};

@@ -72,9 +72,6 @@ using TakenByOutput = QHash<QString, Taken>;
 /// The references that were taken from boards.
 Result<TakenByOutput> takenReferences(const Store &store, const RailFilter &filter)
 {
-    const Result<bool> isKept = store.hasTable(u"TakenReferences"_s);
-    if (!isKept || !*isKept)
-        return isKept ? Result(TakenByOutput()) : isKept.trouble();
     Result<QSqlQuery> query = store.run(kTakenReferences, keysOf(filter));
     if (!query)
         return query.trouble();

@@ -1,5 +1,6 @@
 #include "recordings.h"
 
+#include "newuuid.h"
 #include "queries.h"
 #include "storelimits.h"
 
@@ -44,9 +45,6 @@ QString nameOf(const RecordingKey &key)
 
 Result<Hashes> hashesOf(const Store &store, const Query &query, const QVariantMap &values = {})
 {
-    const Result<bool> isKept = store.hasTable(u"RecordingHash"_s);
-    if (!isKept || !*isKept)
-        return isKept ? Result(Hashes()) : isKept.trouble();
     Result<QSqlQuery> rows = store.run(query, values);
     if (!rows)
         return rows.trouble();
@@ -104,6 +102,22 @@ Result<Done> writeHash(const Store &store, const RecordingKey &key)
     return written ? Result(Done{}) : written.trouble();
 }
 
+Result<Done> dropOtherId(const Store &store, const Recording &recording)
+{
+    QVariantMap values = keysOf({recording.aparelho, recording.comando});
+    values.insert(u":Dados"_s, recording.dados);
+    const auto dropped = store.run(kDropRecordingId, values);
+    return dropped ? Result(Done{}) : dropped.trouble();
+}
+
+Result<Done> addId(const Store &store, const RecordingKey &key)
+{
+    QVariantMap values = keysOf(key);
+    values.insert(u":uuid"_s, newUuid());
+    const auto added = store.run(kAddRecordingId, values);
+    return added ? Result(Done{}) : added.trouble();
+}
+
 } // namespace
 
 Result<std::optional<KeptRecording>> recordingFor(const Store &store, const QString &model, const QString &command)
@@ -122,8 +136,13 @@ Result<std::optional<KeptRecording>> recordingFor(const Store &store, const QStr
 
 Result<Done> saveRecording(Store &store, const Transaction & /*within*/, const Recording &recording)
 {
-    const Result<Done> row = writeRow(store, recording);
-    return row ? writeHash(store, {recording.aparelho, recording.comando}) : row;
+    const RecordingKey key{recording.aparelho, recording.comando};
+    if (const Result<Done> dropped = dropOtherId(store, recording); !dropped)
+        return dropped;
+    if (const Result<Done> row = writeRow(store, recording); !row)
+        return row;
+    const Result<Done> hash = writeHash(store, key);
+    return hash ? addId(store, key) : hash;
 }
 
 Result<Done> saveRecording(Store &store, const Recording &recording)
@@ -140,7 +159,7 @@ Result<Done> deleteRecording(Store &store, const RecordingKey &key)
     Result<Transaction> transaction = Transaction::begin(store);
     if (!transaction)
         return transaction.trouble();
-    for (const Query *query : {&kDeleteRecording, &kDeleteHash})
+    for (const Query *query : {&kDeleteRecording, &kDeleteHash, &kDeleteRecordingId})
         if (const auto removed = store.run(*query, keysOf(key)); !removed)
             return removed.trouble();
     return transaction->commit();

@@ -14,7 +14,8 @@ Result<QList<RfRow>> rfRows(const Store &store, const QString &model, const QStr
     QList<RfRow> rows;
     while (query->next())
         rows.append({query->value(u"Malha"_s).toString(), query->value(u"Componente"_s).toString(),
-                     query->value(u"Valor"_s).toString()});
+                     query->value(u"Valor"_s).toString(), query->value(u"Source"_s).toString(),
+                     query->value(u"Confidence"_s).toString()});
     if (query->lastError().isValid())
         return store.trouble(*query);
     return rows;

@@ -11,6 +11,8 @@ struct RfRow
     QString malha;
     QString componente;
     QString valor;
+    QString source = {};     ///< where the value comes from
+    QString confidence = {}; ///< in it: "high", "medium", "low", or empty when not known
 
     friend bool operator==(const RfRow &, const RfRow &) = default;
 };

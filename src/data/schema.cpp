@@ -16,14 +16,20 @@ constexpr SchemaTable kTables[] = {
     {"Ultimo"_L1, "Modelo"_L1},
     {"RailSources"_L1, "Modelo TIPO Orig Confidence Source"_L1, "Modelo, TIPO, Orig"_L1, SchemaTable::Origin::Added},
     {"TakenReferences"_L1, "Modelo TIPO Orig RefV Source"_L1, "Modelo, TIPO, Orig"_L1, SchemaTable::Origin::Added},
-    {"GoodBoards"_L1, "Modelo TIPO Orig Board Volts"_L1, "Modelo, TIPO, Orig, Board"_L1, SchemaTable::Origin::Added},
+    {"GoodBoards"_L1, "Modelo TIPO Orig Board Volts Uuid Serial"_L1, "Modelo, TIPO, Orig, Board"_L1,
+     SchemaTable::Origin::Added},
     {"Settings"_L1, "Name Value"_L1, "Name"_L1, SchemaTable::Origin::Added},
-    {"DeviceSources"_L1, "Aparelho i Source"_L1, "Aparelho, i"_L1, SchemaTable::Origin::Added},
+    {"DeviceSources"_L1, "Aparelho i Source Confidence"_L1, "Aparelho, i"_L1, SchemaTable::Origin::Added},
+    {"RfSources"_L1, "Modelo Malha Componente Tipo Confidence Source"_L1, "Modelo, Malha, Componente, Tipo"_L1,
+     SchemaTable::Origin::Added},
     {"RecordingHash"_L1, "Aparelho Comando Sha256"_L1, "Aparelho, Comando"_L1, SchemaTable::Origin::Added},
-    {"Surveys"_L1, "Id Started Ended Outcome Model Serial Port Name Note"_L1, "Id"_L1, SchemaTable::Origin::Added},
+    {"RecordingIds"_L1, "Aparelho Comando Uuid Serial"_L1, "Aparelho, Comando"_L1, SchemaTable::Origin::Added},
+    {"Surveys"_L1, "Id Started Ended Outcome Model Serial Port Name Note NoteUuid"_L1, "Id"_L1,
+     SchemaTable::Origin::Added},
     {"SurveyReplies"_L1, "Survey Place Command Reply Cut"_L1, "Survey, Place"_L1, SchemaTable::Origin::Added},
     {"SurveyFindings"_L1,
-     "Survey Output What Screens Reading Reference Source Deviation Lowest Highest Verdict Line"_L1,
+     "Survey Output What Screens Reading Reference Source Deviation Lowest Highest Verdict Line "
+     "Uuid Serial Model"_L1,
      "Survey, Output"_L1, SchemaTable::Origin::Added},
 };
 
@@ -34,8 +40,6 @@ bool isNumberColumn(QStringView column)
     return column == "TIPO"_L1;
 }
 
-namespace {
-
 // Texts are never null, so that `<> ''` finds what is filled; they compare, match and sort without regard to the case
 // of the letters A to Z. "TIPO" in capitals is the kind of a rail, the only number.
 QString columnStatement(const QString &name)
@@ -43,8 +47,6 @@ QString columnStatement(const QString &name)
     const bool number = isNumberColumn(name);
     return name + (number ? " integer not null default 0"_L1 : " text collate nocase not null default ''"_L1);
 }
-
-} // namespace
 
 std::span<const SchemaTable> schemaTables()
 {
@@ -56,14 +58,14 @@ QStringList columnsOf(const SchemaTable &table)
     return QString(table.columns).split(u' ');
 }
 
-QString tableStatement(const SchemaTable &table)
+QString tableStatement(const SchemaTable &table, QLatin1StringView part)
 {
     QStringList parts;
     for (const QString &name : columnsOf(table))
         parts += columnStatement(name);
     if (!table.key.isEmpty())
         parts += u"primary key (%1)"_s.arg(table.key);
-    return u"create table if not exists %1 (%2)"_s.arg(table.name, parts.join(u", "_s));
+    return u"create table %1.%2 (%3)"_s.arg(part, table.name, parts.join(u", "_s));
 }
 
 QStringList schemaStatements()

@@ -10,7 +10,7 @@ struct SchemaTable
     enum class Origin
     {
         Given, ///< every store has it
-        Added  ///< made where it is missing, when a store is opened for writing
+        Added  ///< completed where it or one of its columns is missing
     };
 
     QLatin1StringView name;
@@ -22,7 +22,7 @@ struct SchemaTable
 /// What the head of a store's file says it is: "PMX1". A file without a mark is taken too.
 inline constexpr int kApplicationId = 0x504d5831;
 /// The newest layout that this program knows.
-inline constexpr int kSchemaVersion = 1;
+inline constexpr int kSchemaVersion = 3;
 
 /// Every table, in the order in which they are made.
 std::span<const SchemaTable> schemaTables();
@@ -32,8 +32,11 @@ QStringList columnsOf(const SchemaTable &table);
 /// Whether a column holds a number; all others hold text.
 bool isNumberColumn(QStringView column);
 
-/// The statement that makes a table where it is missing.
-QString tableStatement(const SchemaTable &table);
+/// A column as a table is told of it: its name, its type and what it holds at first.
+QString columnStatement(const QString &name);
+
+/// The statement that makes a table in this part of a connection: "main" is the file, "temp" is gone with it.
+QString tableStatement(const SchemaTable &table, QLatin1StringView part = QLatin1StringView("main"));
 
 /// The statements that make an empty file a store, in their order.
 QStringList schemaStatements();

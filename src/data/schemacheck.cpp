@@ -3,11 +3,9 @@
 #include "queries.h"
 #include "schema.h"
 #include "store.h"
+#include "storecolumns.h"
 #include "storetrouble.h"
 #include "visibletext.h"
-
-#include <QHash>
-#include <QSqlError>
 
 #include <algorithm>
 #include <array>
@@ -28,33 +26,8 @@ Findings strangeIds(int application, int version)
     return {};
 }
 
-struct Column
-{
-    QString type;
-    bool generated = false;
-};
-
-QString keyOf(const QString &table, const QString &column)
-{
-    return (table + u'.' + column).toLower();
-}
-
-Result<QHash<QString, Column>> columnsIn(const Store &store)
-{
-    Result<QSqlQuery> rows = store.run(kColumnsOfTables);
-    if (!rows)
-        return rows.trouble();
-    QHash<QString, Column> columns;
-    while (rows->next())
-        columns.insert(keyOf(rows->value(0).toString(), rows->value(1).toString()),
-                       {rows->value(2).toString().toUpper(), rows->value(3).toInt() != 0});
-    if (rows->lastError().isValid())
-        return store.trouble(*rows);
-    return columns;
-}
-
 // As the engine itself reads a type: by the words in it.
-bool fits(const Column &column, bool number)
+bool fits(const StoreColumn &column, bool number)
 {
     static constexpr std::array kText = {"CHAR"_L1, "CLOB"_L1, "TEXT"_L1};
     const bool isNumber = column.type.contains("INT"_L1);
@@ -62,16 +35,24 @@ bool fits(const Column &column, bool number)
     return !column.generated && (number ? isNumber : isText && !isNumber);
 }
 
-std::optional<StoreFinding> strangeColumn(const QHash<QString, Column> &columns, const QString &table,
-                                          const QString &name)
+/// A column that was added to a table later is completed; what the rows of a table are known by cannot be.
+bool mayLack(const SchemaTable &table, const QString &column)
 {
-    const auto column = columns.find(keyOf(table, name));
-    const QString where = table + u'.' + name;
-    if (column == columns.end())
-        return StoreFinding{Kind::Foreign, where, u"is missing"_s};
-    if (!fits(*column, isNumberColumn(name)))
-        return StoreFinding{Kind::Foreign, where, u"has the wrong type %1"_s.arg(plainName(column->type))};
-    return {};
+    return table.origin == SchemaTable::Origin::Added && !QString(table.key).split(u", "_s).contains(column);
+}
+
+Findings strangeColumnsOf(const SchemaTable &table, const StoreColumns &there)
+{
+    Findings found;
+    for (const QString &name : columnsOf(table)) {
+        const StoreColumn *column = there.find(table.name, name);
+        const QString where = table.name + u'.' + name;
+        if (!column && !mayLack(table, name))
+            found += {Kind::Foreign, where, u"is missing"_s};
+        if (column && !fits(*column, isNumberColumn(name)))
+            found += {Kind::Foreign, where, u"has the wrong type %1"_s.arg(plainName(column->type))};
+    }
+    return found;
 }
 
 } // namespace
@@ -102,29 +83,48 @@ Result<Findings> strangeParts(const Store &store)
                      kind == "table"_L1 ? u"is no ordinary table"_s : u"is a "_s + plainName(kind)}};
 }
 
-Result<Done> schemaIsOurs(const Store &store)
+Result<Done> isOneOfOurs(const Store &store)
 {
     const Result<Findings> found = strangeParts(store);
     if (!found)
         return found.trouble();
+    if (!found->isEmpty() && found->first().kind != Kind::Newer)
+        return troubleOf(found->first(), store.path());
+    Result<QSqlQuery> rails = store.run(kHasMaster);
+    if (!rails)
+        return rails.trouble();
+    if (!rails->next())
+        return storeTrouble(u"STORE_DAMAGED"_s, store.path(), u"no table Master"_s);
     return found->isEmpty() ? Result(Done{}) : troubleOf(found->first(), store.path());
 }
 
-Result<Findings> strangeColumns(const Store &store, std::span<const QLatin1StringView> tables)
+Result<Done> isReadable(const Store &store)
 {
-    const Result<QHash<QString, Column>> columns = columnsIn(store);
-    if (!columns)
-        return columns.trouble();
+    const Result<Done> ours = isOneOfOurs(store);
+    const bool isNewer = !ours && ours.trouble().what.key == "STORE_NEWER"_L1;
+    return isNewer ? Result(Done{}) : ours;
+}
+
+Result<Findings> strangeColumns(const Store &store, std::span<const QLatin1StringView> given)
+{
+    const Result<StoreColumns> there = StoreColumns::in(store);
+    if (!there)
+        return there.trouble();
     Findings found;
     for (const SchemaTable &table : schemaTables()) {
-        if (std::ranges::find(tables, table.name) == tables.end())
-            continue;
-        for (const QString &name : columnsOf(table)) {
-            if (const auto strange = strangeColumn(*columns, table.name, name))
-                found += *strange;
-        }
+        const bool isGiven = table.origin == SchemaTable::Origin::Given;
+        if (isGiven ? std::ranges::find(given, table.name) != given.end() : there->hasTable(table.name))
+            found += strangeColumnsOf(table, *there);
     }
     return found;
+}
+
+Result<Done> addedTablesAreOurs(const Store &store)
+{
+    const Result<Findings> found = strangeColumns(store, {});
+    if (!found)
+        return found.trouble();
+    return found->isEmpty() ? Result(Done{}) : troubleOf(found->first(), store.path());
 }
 
 Trouble troubleOf(const StoreFinding &finding, const QString &path)

@@ -1,5 +1,7 @@
 #include "store.h"
 
+#include "completion.h"
+#include "ladder.h"
 #include "queries.h"
 #include "schema.h"
 #include "schemacheck.h"
@@ -75,10 +77,12 @@ Result<Store> Store::open(const QString &path, Access access, std::chrono::milli
     Result<Store> store = connected(path, FileMode::Writable, patience);
     if (!store)
         return store;
-    if (const Result<Done> ours = store->checkTables(); !ours)
+    if (const Result<Done> ours = store->checkTables(access); !ours)
         return ours.trouble();
     if (const Result<Done> ready = store->prepareFor(access); !ready)
         return ready.trouble();
+    if (const Result<Done> newest = access == Access::Write ? climb(*store) : Done{}; !newest)
+        return newest.trouble();
     return store;
 }
 
@@ -94,16 +98,9 @@ Result<Store> Store::makeTables(const QString &emptyFile)
 }
 
 // The first read: it also tells a file that is no database, and a lock. Until here nothing was written.
-Result<Done> Store::checkTables() const
+Result<Done> Store::checkTables(Access access) const
 {
-    if (const Result<Done> safe = schemaIsOurs(*this); !safe)
-        return safe;
-    Result<QSqlQuery> table = run(kHasMaster);
-    if (!table)
-        return table.trouble();
-    if (!table->next())
-        return storeTrouble(u"STORE_DAMAGED"_s, m_path, u"no table Master"_s);
-    return tablesAreWithinLimits(*this);
+    return access == Access::Read ? isReadable(*this) : isOneOfOurs(*this);
 }
 
 // Writing is tried at once, by a statement that changes no row, so that who waits for a lock, or meets a write
@@ -111,24 +108,15 @@ Result<Done> Store::checkTables() const
 // left must be rolled back first.
 Result<Done> Store::prepareFor(Access access) const
 {
+    if (const Result<Done> completed = access == Access::Read ? completeForReading(*this) : Done{}; !completed)
+        return completed;
     static const QStringList kReading = {u"PRAGMA query_only=ON"_s};
     static const QStringList kWriting = {u"PRAGMA journal_mode=DELETE"_s, u"PRAGMA synchronous=FULL"_s,
                                          u"Update Master set G1 = G1 Where 0"_s};
     for (const QString &statement : access == Access::Read ? kReading : kWriting)
         if (const Result<Done> done = execute(statement); !done)
             return done;
-    return access == Access::Read ? Done{} : addMissingTables();
-}
-
-// A store of an earlier version gets the tables that it could not know.
-Result<Done> Store::addMissingTables() const
-{
-    for (const SchemaTable &table : schemaTables()) {
-        const bool added = table.origin == SchemaTable::Origin::Added;
-        if (const Result<Done> there = added ? execute(tableStatement(table)) : Done{}; !there)
-            return there;
-    }
-    return Done{};
+    return tablesAreWithinLimits(*this);
 }
 
 Result<Done> Store::execute(const QString &statement) const
@@ -169,12 +157,6 @@ Result<Done> Store::rerun(QSqlQuery &query, const QVariantMap &values) const
     if (!query.exec())
         return trouble(query);
     return Done{};
-}
-
-Result<bool> Store::hasTable(const QString &name) const
-{
-    Result<QSqlQuery> table = run(kHasTable, {{u":table"_s, name}});
-    return table ? Result(table->next()) : table.trouble();
 }
 
 Trouble Store::trouble(const QSqlQuery &query) const

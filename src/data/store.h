@@ -46,9 +46,6 @@ public:
     /// Executes a prepared query again, with other values.
     Result<Done> rerun(QSqlQuery &query, const QVariantMap &values) const;
 
-    /// A store that this version never opened for writing lacks the tables that it adds.
-    Result<bool> hasTable(const QString &name) const;
-
     /// What the last error of a query comes to, in words for a person.
     Trouble trouble(const QSqlQuery &query) const;
 
@@ -58,9 +55,8 @@ private:
     explicit Store(QString connection, QString path);
     QSqlDatabase database() const;
     Result<Done> execute(const QString &statement) const;
-    Result<Done> checkTables() const;
+    Result<Done> checkTables(Access access) const;
     Result<Done> prepareFor(Access access) const;
-    Result<Done> addMissingTables() const;
 
     friend class Transaction;
     QString m_connection;

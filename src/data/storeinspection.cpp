@@ -1,5 +1,6 @@
 #include "storeinspection.h"
 
+#include "completion.h"
 #include "oddrows.h"
 #include "queries.h"
 #include "quietstore.h"
@@ -24,24 +25,12 @@ constexpr QLatin1StringView kReferenceTables[] = {"Master"_L1, "Rf"_L1,     "i"_
                                                   "M"_L1,      "Combos"_L1, "Tools"_L1, "Ultimo"_L1};
 constexpr QLatin1StringView kUserTables[] = {"Master"_L1, "Comandos"_L1, "Dados"_L1, "Combos"_L1};
 
-using Tables = QList<QLatin1StringView>;
+using Tables = std::span<const QLatin1StringView>;
 
-/// What a store must have for its role, and those of the added tables that it has.
-Result<Tables> tablesIn(const Store &store, StoreRole role)
+/// What a store must have for its role.
+Tables tablesFor(StoreRole role)
 {
-    if (role == StoreRole::User)
-        return Tables(std::begin(kUserTables), std::end(kUserTables));
-    Tables tables(std::begin(kReferenceTables), std::end(kReferenceTables));
-    for (const SchemaTable &table : schemaTables()) {
-        if (table.origin != SchemaTable::Origin::Added)
-            continue;
-        const Result<bool> isThere = store.hasTable(table.name);
-        if (!isThere)
-            return isThere.trouble();
-        if (*isThere)
-            tables += table.name;
-    }
-    return tables;
+    return role == StoreRole::User ? Tables(kUserTables) : Tables(kReferenceTables);
 }
 
 // A text of a query that is made from the table of the schema alone.
@@ -111,11 +100,11 @@ Result<Findings> strangeValues(const Store &store, const SchemaTable &table)
     return found;
 }
 
-Findings strangeValues(const Store &store, const Tables &tables)
+Findings strangeValues(const Store &store, Tables given)
 {
     Findings found;
     for (const SchemaTable &table : schemaTables()) {
-        if (tables.contains(table.name))
+        if (table.origin == SchemaTable::Origin::Added || std::ranges::find(given, table.name) != given.end())
             found += foundOr(strangeValues(store, table));
     }
     return found;
@@ -169,11 +158,13 @@ Result<Findings> findingsOfOddRows(const Store &store)
     return found;
 }
 
-Findings closerFindings(const Store &store, StoreRole role, const Tables &tables)
+Result<Findings> closerFindings(const Store &store, StoreRole role)
 {
     if (const Findings broken = foundOr(brokenPages(store)); !broken.isEmpty())
         return broken;
-    Findings found = strangeValues(store, tables);
+    if (const Result<Done> completed = completeForReading(store); !completed)
+        return completed.trouble();
+    Findings found = strangeValues(store, tablesFor(role));
     found += foundOr(changedRecordings(store));
     if (role == StoreRole::Reference)
         found += foundOr(repeatedRows(store)) + foundOr(findingsOfOddRows(store));
@@ -182,13 +173,10 @@ Findings closerFindings(const Store &store, StoreRole role, const Tables &tables
 
 Result<Findings> findingsIn(const Store &store, StoreRole role, Depth depth)
 {
-    const Result<Tables> tables = tablesIn(store, role);
-    if (!tables)
-        return tables.trouble();
-    for (const Result<Findings> &found : {strangeParts(store), strangeColumns(store, *tables)})
+    for (const Result<Findings> &found : {strangeParts(store), strangeColumns(store, tablesFor(role))})
         if (!found || !found->isEmpty())
             return found;
-    return depth == Depth::Quick ? Findings() : closerFindings(store, role, *tables);
+    return depth == Depth::Quick ? Result(Findings()) : closerFindings(store, role);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "userstore.h"
 
+#include "completion.h"
 #include "queries.h"
 #include "quietstore.h"
 #include "storeinspection.h"
@@ -94,6 +95,8 @@ Result<UserStore> readUserStore(const QString &path)
     const Result<QuietStore> quiet = QuietStore::open(path, kPatience);
     if (!quiet)
         return quiet.trouble();
+    if (const Result<Done> completed = completeForReading(quiet->store()); !completed)
+        return toldOf(path, completed.trouble());
     const Result<UserStore> user = everythingIn(quiet->store());
     return user ? user : toldOf(path, user.trouble());
 }
