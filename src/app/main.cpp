@@ -59,7 +59,9 @@ int main(int argc, char **argv)
         QApplication::exec();
         return kNoStore;
     }
-    if (const Result<Done> sound = inspectStore(store, StoreRole::Reference, Depth::Quick); !sound) {
+    // A store of a later version can be read; that it is not written is told with the first thing to be kept.
+    const Result<Done> sound = inspectStore(store, StoreRole::Reference, Depth::Quick);
+    if (!sound && sound.trouble().what.key != "STORE_NEWER"_L1) {
         splash.close();
         showStoreRefused(sound.trouble());
         QApplication::exec();

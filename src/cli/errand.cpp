@@ -1,5 +1,6 @@
 #include "errand.h"
 
+#include "schemacheck.h"
 #include "terminal.h"
 
 using namespace Qt::StringLiterals;
@@ -46,6 +47,13 @@ void Errand::timedOut()
     fail({{u"IGNORED_EMPTY_REPLY"_s}}, ExitCode::Link);
 }
 
+/// The one thing that keeps a store from being written but not from being read: it is of a later version.
+static Result<QList<Notice>> reservationsAbout(const Store &store)
+{
+    const Result<Done> ours = isOneOfOurs(store);
+    return ours ? QList<Notice>() : QList<Notice>{ours.trouble().what};
+}
+
 void Errand::start()
 {
     session().load();
@@ -53,6 +61,11 @@ void Errand::start()
         return;
     if (m_options.language)
         session().chooseLanguage(*m_options.language);
+    session().withStore<QList<Notice>>(Store::Access::Read, &reservationsAbout, this,
+                                       [this](const QList<Notice> &reservations) {
+                                           for (const Notice &reservation : reservations)
+                                               printError(oneLine({reservation}, language()));
+                                       });
     if (m_options.timeout)
         m_timeout.start(*m_options.timeout);
 }
