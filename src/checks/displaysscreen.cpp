@@ -46,6 +46,10 @@ void DisplaysScreen::Cor_Click(const QString &button)
         refuseModel();
         return checkEnded();
     }
+    if (!m_text.isEmpty() && m_text.trimmed().isEmpty()) {
+        session().refuse({u"DISPLAY_TEXT_BLANK"_s});
+        return checkEnded();
+    }
     const QString before = m_text;
     m_text = m_text.isEmpty() ? QString(kUsualText) : m_text.remove(u' ');
     if (m_text != before)

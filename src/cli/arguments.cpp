@@ -1,5 +1,6 @@
 #include "arguments.h"
 
+#include "complaint.h"
 #include "models.h"
 #include "phoneprofile.h"
 #include "screentable.h"
@@ -68,11 +69,6 @@ CLI::Option *addPort(CLI::App &app, CommonOptions &common)
 CLI::Option *addReply(CLI::App &app, QString &replyFile)
 {
     return addText(app, "--reply", replyFile, "file with the bytes as the phone sent them; - reads standard input");
-}
-
-std::string emptyComplaint(const std::string &text)
-{
-    return text.find_first_not_of(' ') == std::string::npos ? "it is empty" : "";
 }
 
 bool isOfReport(const CLI::Option *option)
@@ -184,7 +180,7 @@ void addStore(CLI::App &app, Arguments &arguments, Commands &commands)
 
 void addCommand(CLI::App &app, ConsoleOptions &console)
 {
-    addText(app, "--command", console.command, "the command line")->required()->check(emptyComplaint);
+    addText(app, "--command", console.command, "the command line")->required()->check(commandComplaint);
 }
 
 CLI::App *addRecord(CLI::App &app, Arguments &arguments)
@@ -253,7 +249,7 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
         addCommon(*live, arguments.common);
         addPort(*live, arguments.common);
     }
-    addText(*send, "command", arguments.text, "the command line")->required()->check(emptyComplaint);
+    addText(*send, "command", arguments.text, "the command line")->required()->check(commandComplaint);
     addText(*send, "--log", arguments.logFile, "take the exchange down in this file, with times");
 
     CLI::App *run = app.add_subcommand("run", "ask the phone, judge, print");

@@ -1,5 +1,6 @@
 #include "checkcommands.h"
 
+#include "complaint.h"
 #include "displaysscreen.h"
 #include "i2cscreen.h"
 #include "nandscreen.h"
@@ -68,7 +69,8 @@ static constexpr std::array kDisplayOptions = {
         .name = "--text",
         .help = "what stands on the colour, one word",
         .give = [](Screen &screen,
-                   const QString &text) { static_cast<DisplaysScreen &>(screen).txt_Texto_Cores_Change(text); }},
+                   const QString &text) { static_cast<DisplaysScreen &>(screen).txt_Texto_Cores_Change(text); },
+        .complaint = displayTextComplaint},
     ScreenOption{
         .name = "--button",
         .help = "Cor_Azul and the other colours, bl:0 to bl:5, bl:8 (mode) or level:1 to level:3",

@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include "commandguard.h"
+#include "linebytes.h"
 #include "replycodes.h"
 
 #include <utility>
@@ -22,6 +23,10 @@ bool Session::maySend(const QString &command)
         refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
     return isReady();
 }
+    if (const Result<QByteArray> line = lineBytes(command); !line) {
+        refuse(line.trouble().what);
+        return false;
+    }
 
 bool Session::requestInstead(const QString &code, const QString &command)
 {
@@ -72,7 +77,10 @@ void Session::EnviaComando()
     m_parts.port.discardInput();
     m_timer1.start();
     enter(u'3', u"Comunicando"_s);
-    m_parts.port.write(m_txtComandos.toLatin1() + '\r');
+    m_parts.port.write(*line);
+    const Result<QByteArray> line = lineBytes(m_txtComandos);
+    if (!line)
+        return refuse(line.trouble().what);
 }
 
 /// In one go: replacing them moves the rest of a flood again and again.

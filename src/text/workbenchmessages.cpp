@@ -230,6 +230,16 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      {u"Recusado: um comando com apóstrofo não pode ser gravado.",
       u"Refused: a command with an apostrophe cannot be stored.",
       u"Rechazado: no se puede guardar un comando con apóstrofo."}},
+    // %1 the character by its number, %2 where it stands
+    {u"COMMAND_NOT_ONE_LINE",
+     Information,
+     {u"Recusado: o caractere %1 (posição %2) não cabe em uma linha de comando.",
+      u"Refused: the character %1 (at place %2) has no place in a command line.",
+      u"Rechazado: el carácter %1 (posición %2) no cabe en una línea de comando."}},
+    {u"DISPLAY_TEXT_BLANK",
+     Information,
+     {u"Não enviado: o texto para a tela só tem espaços.", u"Not sent: the text for the display is nothing but blanks.",
+      u"No enviado: el texto para la pantalla solo tiene espacios."}},
     // %1 the document, %2 and %3 where it was looked for
     {u"GUIDE_MISSING",
      Information,

@@ -81,6 +81,24 @@ private slots:
         QCOMPARE(corrected.value(0).value(0).toString(), u"Tavimo_Prelt"_s);
     }
 
+    void blanksAndSecondLinesAreNotSent()
+    {
+        for (const auto &[typed, why] :
+             {std::pair(u"  "_s, u"DISPLAY_TEXT_BLANK"_s), std::pair(u"a\rShutdown"_s, u"COMMAND_NOT_ONE_LINE"_s)}) {
+            PhoneBench bench(u"IP 8"_s);
+            bench.connectPhone();
+            DisplaysScreen display(*bench.session);
+            QSignalSpy told(bench.session.get(), &Session::refused);
+            QSignalSpy ended(&display, &Screen::readingEnded);
+            display.txt_Texto_Cores_Change(typed);
+            display.Cor_Click(u"Cor_Azul"_s);
+            QCOMPARE(bench.port.commands.size(), 1); // the model's
+            QCOMPARE(told.size(), 1);
+            QCOMPARE(told.first().first().value<Notice>().key, why);
+            QCOMPARE(ended.size(), 1);
+        }
+    }
+
     void coloursAreNotForTheOldest()
     {
         for (const QString &model : modelNames()) {

@@ -284,6 +284,10 @@ private slots:
         add("the same to be compared", u"compare --command \"syscfg add\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
         add("a command that cannot be stored", u"record --command \"a'b\" --port \"sim:IP 7\" --lang en"_s + home, 2,
             "apostrophe");
+        add("two lines to send", u"send \"a\rShutdown\" --port 1"_s, 2, "U+000D");
+        add("two lines to show", u"run display --text \"a\nb\" --port 1"_s, 2, "U+000A");
+        add("blanks to show", u"run display --text \"  \" --port 1"_s, 2, "blanks");
+        add("what no line carries", u"record --command \"a\u263A\" --port 1"_s, 2, "U+263A");
         add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
         add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
         add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");

@@ -304,6 +304,19 @@ private slots:
         const QByteArray reply = answered("cmd", "value 1.0 mV");
         for (qsizetype bytes = 0; bytes <= 2 * reply.size(); ++bytes) {
             const QByteArray came = reply.left(bytes / 2);
+    /// Every command goes through here, wherever it was typed.
+    void onlyOneLineIsWritten()
+    {
+        for (const QString &command :
+             {u"a\rShutdown\r"_s, u"a\nb"_s, u"a"_s + QChar(0), u"a\tb"_s, u"a\u0085b"_s, u"a\u263Ab"_s}) {
+            ReadyBench bench;
+            QVERIFY(!bench.session.request(u"15"_s, command));
+            QVERIFY(!bench.session.requestInstead(u"15"_s, command));
+            QVERIFY(bench.port.journal.isEmpty());
+            QCOMPARE(bench.log, QStringList({u"COMMAND_NOT_ONE_LINE"_s, u"COMMAND_NOT_ONE_LINE"_s}));
+        }
+    }
+
             bench.port.answers = {{came}};
             QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
             if (bytes % 2 && !came.isEmpty())
