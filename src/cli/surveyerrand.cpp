@@ -115,7 +115,7 @@ void SurveyErrand::printSurvey()
         return;
     if (m_showsProgress)
         std::fputs(qUtf8Printable(QString(kClearLine)), stderr);
-    if (!m_survey.hasReading()) // why was told when it was refused
+    if (m_survey.run().end == SurveyEnd::Open) // it never began: why was told when it was refused
         return finish(ExitCode::Link);
     printOut(options().json ? jsonText() : readableText());
     if (!m_surveyOptions.pdfFile.isEmpty())

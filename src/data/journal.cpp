@@ -99,6 +99,14 @@ Result<Done> writeAll(const Store &store, const Query &query, const QString &id,
     return Done{};
 }
 
+Result<bool> isDeleted(const Store &store, const JournalEntry &entry)
+{
+    if (!entry.isKnown)
+        return false;
+    const auto rows = rowsOf(store, kSurvey, {{u":id"_s, entry.survey.id}}, &surveyAt);
+    return rows ? Result(rows->isEmpty()) : rows.trouble();
+}
+
 Result<Done> writeEntry(const Store &store, const JournalEntry &entry)
 {
     if (const auto survey = store.run(kKeepSurvey, rowOf(entry.survey)); !survey)
@@ -120,6 +128,9 @@ Result<Done> keepInJournal(Store &store, const JournalEntry &entry)
     Result<Transaction> transaction = Transaction::begin(store);
     if (!transaction)
         return transaction.trouble();
+    const Result<bool> deleted = isDeleted(store, entry);
+    if (!deleted || *deleted)
+        return deleted ? Result(Done{}) : deleted.trouble();
     const Result<Done> written = writeEntry(store, entry);
     return written ? transaction->commit() : written;
 }

@@ -56,10 +56,11 @@ struct JournalEntry
     JournalSurvey survey;
     QList<JournalReply> replies = {};
     QList<JournalFinding> findings = {};
+    bool isKnown = false; ///< its row was written before; where it is gone, somebody has deleted it
 };
 
 /// Writes what a survey has come to, all or nothing: its row, and the exchanges and findings that are new or changed.
-/// What was written of it before stays, and a note that was set since.
+/// What was written of it before stays, and a note that was set since. What was deleted since stays deleted.
 Result<Done> keepInJournal(Store &store, const JournalEntry &entry);
 
 /// The surveys, the newest first. A search finds any part of time, model, serial number, name or note, or of what was

@@ -125,9 +125,8 @@ QList<Finding> findingsOf(const JournalEntry &entry)
 
 Verdict verdictOf(const JournalEntry &entry)
 {
-    const Verdict verdict = overall(findingsOf(entry));
     const bool isWhole = entry.survey.outcome == word(SurveyEnd::Finished);
-    return verdict == Verdict::Pass && !isWhole ? Verdict::Incomplete : verdict;
+    return verdictOf(findingsOf(entry), isWhole ? SurveyEnd::Finished : SurveyEnd::Open);
 }
 
 QString exchangeText(const JournalEntry &entry, Language language)

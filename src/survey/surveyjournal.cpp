@@ -68,6 +68,7 @@ void SurveyJournal::begin(const SurveyRun &run, const QString &name, const QStri
     m_unwritten = {};
     m_hasFailed = false;
     m_isWritten = false;
+    m_isKnown = false;
     write({m_survey});
 }
 
@@ -78,6 +79,7 @@ void SurveyJournal::keep(const SurveyRun &run)
     m_survey.ended = timeText(run.ended);
     JournalEntry entry = std::exchange(m_unwritten, {});
     entry.survey = m_survey;
+    entry.isKnown = m_isKnown;
     for (; m_answers < run.answers.size(); ++m_answers) {
         const SurveyAnswer &answer = run.answers.at(m_answers);
         entry.replies.append({static_cast<int>(m_answers), answer.step.command, answer.reply, answer.cut});
@@ -104,6 +106,7 @@ void SurveyJournal::write(const JournalEntry &entry)
             if (written) {
                 m_hasFailed = false;
                 return;
+                m_isKnown = m_isKnown || entry.survey.id == m_survey.id;
             }
             m_unwritten.replies = entry.replies + m_unwritten.replies;
             m_unwritten.findings = entry.findings + m_unwritten.findings;

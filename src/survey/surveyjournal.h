@@ -35,6 +35,7 @@ private:
     JournalEntry m_unwritten;
     bool m_hasFailed = false;
     bool m_isWritten = false;
+    bool m_isKnown = false; ///< to the store
 };
 
 JournalFinding toJournal(const Finding &finding);

@@ -131,9 +131,8 @@ Panel SurveyScreen::makeReading() const
         caption(u"Vistoria") + " - Tavimo Prelt - "_L1 + (m_run.model.isEmpty() ? session().model() : m_run.model);
     panel.rows = findingRows(shownFindings(), m_run.model, language);
     panel.judgements = judgements();
-    panel.verdict = overall(m_findings);
-    if (m_run.end != SurveyEnd::Finished && panel.verdict == Verdict::Pass)
-        panel.verdict = Verdict::Incomplete;
+    if (!m_run.id.isEmpty())
+        panel.verdict = verdictOf(m_findings, m_run.end);
     return panel;
 }
 

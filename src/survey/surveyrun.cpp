@@ -41,8 +41,8 @@ void takeAnswer(SurveyRun &run, const QString &reply, bool cut, std::chrono::mil
     run.answers.append(answer);
 }
 
-Verdict verdictOf(const SurveyRun &run)
+Verdict verdictOf(const QList<Finding> &findings, SurveyEnd end)
 {
-    const Verdict verdict = overall(run.findings(run.language));
-    return run.end != SurveyEnd::Finished && verdict == Verdict::Pass ? Verdict::Incomplete : verdict;
+    const Verdict verdict = overall(findings);
+    return end == SurveyEnd::Finished ? verdict : worst(verdict, Verdict::Incomplete);
 }

@@ -40,5 +40,6 @@ struct SurveyRun
 /// what the reply said counts no more.
 void takeAnswer(SurveyRun &run, const QString &reply, bool cut, std::chrono::milliseconds took);
 
-/// A survey that did not come to its end is never good.
-Verdict verdictOf(const SurveyRun &run);
+/// A survey that did not come to its end is never good, and neither is one that was broken off before it judged
+/// anything.
+Verdict verdictOf(const QList<Finding> &findings, SurveyEnd end);

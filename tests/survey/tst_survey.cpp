@@ -230,6 +230,34 @@ private slots:
         QCOMPARE(bench.open(), QStringList());
     }
 
+    void brokenOffBeforeAnythingWasJudged()
+    {
+        SurveyBench bench(u"IP 6s"_s);
+        QCOMPARE(bench.survey.reading().verdict, Verdict::None);
+        bench.survey.read();
+        bench.step(); // the serial number is no finding
+        bench.survey.btCancelar_Click();
+        QCOMPARE(bench.survey.findings().size(), 0);
+        QCOMPARE(bench.survey.reading().verdict, Verdict::Incomplete);
+        QCOMPARE(verdictOf({}, SurveyEnd::Finished), Verdict::None);
+    }
+
+    void deletedWhileItRunsStaysDeleted()
+    {
+        SurveyBench bench(u"IP 6s"_s);
+        bench.survey.read();
+        bench.runUntil(u"nanduid"_s);
+        Result<Store> store = Store::open(bench.store->path(), Store::Access::Write, 1s);
+        QVERIFY(store && deleteFromJournal(*store, bench.survey.run().id));
+        while (bench.survey.isRunning())
+            bench.step();
+        QVERIFY(journal(*store)->isEmpty());
+        const Query rest{"Rest", "Select 1 from SurveyReplies union all Select 1 from SurveyFindings"};
+        QVERIFY(!store->run(rest)->next());
+        bench.runAll(); // the next one is a survey of its own
+        QCOMPARE(bench.kept().survey.outcome, u"finished"_s);
+    }
+
     void cancelKeepsWhatIsDone()
     {
         SurveyBench bench(u"IP 6s,ldo2=1200"_s);
