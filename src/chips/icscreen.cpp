@@ -36,8 +36,11 @@ bool ICScreen::hasArrived(const QString &reply) const
 void ICScreen::checkEnded()
 {
     CheckScreen::checkEnded();
-    if (hasReading() && !CheckScreen::hasReading())
-        emit judged();
+    if (!hasReading() || CheckScreen::hasReading())
+        return;
+    if (!hasArrived(txtDados()))
+        session().refuse({u"REPLY_TOO_SHORT"_s});
+    emit judged();
 }
 
 QString ICScreen::waitText(QStringView key) const

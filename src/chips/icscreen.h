@@ -13,6 +13,7 @@ public:
     void read() override { btBl_Click(); }
     /// A reply that stayed too short to be judged is told too.
     bool hasReading() const override { return !isReading() && !txtDados().isEmpty(); }
+    bool hasAnswer() const override { return hasReading() || CheckScreen::hasAnswer(); }
 
     void btBl_Click();
     void btTristar_Click();

@@ -111,6 +111,8 @@ void CheckScreen::take(const Delivery &delivery)
         session().refuse({u"IGNORED_EMPTY_REPLY"_s});
     Timer1_Timer();
 }
+    if (m_isReading && session().isSavedReply()) // nothing more will come
+        end();
 
 void CheckScreen::Timer1_Timer()
 {

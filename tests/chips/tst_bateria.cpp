@@ -188,13 +188,14 @@ private slots:
         QCOMPARE(judged.size(), 1);
     }
 
-    void replyThatStaysShortGivesUpSilently()
+    void replyThatStaysShortIsTold()
     {
         PhoneBench bench(u"IP 7"_s);
         bench.connectPhone();
         bench.port.keptBytes = 20; // with the line break that the console starts with: 22
         ICScreen chip(*bench.session);
         QSignalSpy ended(&chip, &Screen::readingEnded);
+        QSignalSpy told(bench.session.get(), &Session::refused);
         chip.btBl_Click();
         bench.gatherReply();
         for (int tick = 2; tick < 30; ++tick)
@@ -204,6 +205,9 @@ private slots:
         QCOMPARE(ended.size(), 1);
         QCOMPARE(text(chip.panel(), u"lbStatus"_s), QString());
         QCOMPARE(chip.reading().verdict, Verdict::Incomplete);
+        QVERIFY(chip.hasAnswer());
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(told.first().first().value<Notice>().key, u"REPLY_TOO_SHORT"_s);
     }
 
     void nothingIsSentWhileBusyOrClosed()

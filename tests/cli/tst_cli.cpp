@@ -184,6 +184,14 @@ private slots:
         QTEST(findings.first().toObject().value(u"what"_s).toString(), "finding");
     }
 
+    void shortReplyIsTold()
+    {
+        const Outcome outcome = atHome(u"judge ic --model \"IP 7\" --reply - --json"_s, "tristar -p\r\nERROR\n:-) ");
+        QCOMPARE(outcome.code, 5);
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QCOMPARE(outcome.json().value(u"verdict"_s).toString(), u"incomplete"_s);
+    }
+
     /// A single fault of the phone is that finding and no other.
     void testsOfTheParts_data()
     {
