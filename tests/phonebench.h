@@ -30,7 +30,7 @@ public:
     void write(const QByteArray &bytes) override
     {
         commands.append(bytes.chopped(1));
-        m_arrived += answer(phone, bytes.chopped(1)).left(keptBytes);
+        m_arrived += before + (answers ? answer(phone, bytes.chopped(1)).left(keptBytes) : QByteArray());
         obey(phone, bytes.chopped(1));
     }
     QByteArray read() override { return std::exchange(m_arrived, {}); }
@@ -44,6 +44,8 @@ public:
     PhoneProfile phone;
     static constexpr qsizetype kAll = 1'000'000;
     qsizetype keptBytes = kAll;
+    QByteArray before = {}; ///< what comes before each answer
+    bool answers = true;
     QList<QByteArray> commands;
 
 private:

@@ -38,6 +38,7 @@ void BateriaScreen::read()
     if (isReading())
         return;
     m_txtDados.clear();
+    forgetStray();
     if (session().isSavedReply()) // it is the gauge's
         askGauge();
     else if (session().request(kPropertiesCode, kBatteryProperties))
@@ -120,6 +121,7 @@ void BateriaScreen::forget()
     if (isReading())
         return;
     m_txtDados.clear();
+    forgetStray();
     m_step = Step::Nothing;
     rebuild();
 }

@@ -34,7 +34,7 @@ void ConsoleErrand::takeReply()
 {
     if (isFinished() || std::exchange(m_replied, true))
         return;
-    if (m_screen.hasReading())
+    if (m_screen.hasReading() || m_screen.isStray())
         replied();
     else
         finish(ExitCode::Link);
@@ -77,15 +77,17 @@ std::optional<Integrity> CompareErrand::integrity()
 
 void CompareErrand::replied()
 {
-    const Comparison comparison{.model = session().model(),
-                                .command = console().command,
-                                .language = language(),
-                                .difference = screen().difference(),
-                                .summary = screen().summary(),
-                                .integrity = integrity(),
-                                .cut = screen().isCut(),
-                                .mark = screen().autoComparador(),
-                                .messages = messages()};
+    Comparison comparison{.model = session().model(),
+                          .command = console().command,
+                          .language = language(),
+                          .difference = screen().difference(),
+                          .summary = screen().summary(),
+                          .integrity = integrity(),
+                          .cut = screen().isCut(),
+                          .mark = screen().autoComparador(),
+                          .messages = messages()};
+    if (screen().isStray())
+        comparison.difference.verdict = Verdict::Incomplete;
     printOut(options().json ? document(toJson(comparison)) : readable(comparison));
     finish(exitCodeFor(comparison.difference.verdict));
 }

@@ -42,7 +42,7 @@ void ReadingErrand::printReading()
     const Panel &panel = m_screen->reading();
     if (!session().isModelKnown())
         return refuseWithoutModel();
-    if (!m_screen->hasAnswer()) // why was told when it was refused
+    if (!m_screen->hasAnswer() && !m_screen->isStray()) // why was told when it was refused
         return finish(ExitCode::Link);
     const ReportWish &wish = m_screenOptions.report;
     if (wish.isWanted() && !panel.report) // a screen that does not fit the model

@@ -48,6 +48,12 @@ void SendErrand::take(const Delivery &delivery)
     end(ExitCode::Good);
 }
 
+void SendErrand::takeStray(const Delivery &delivery)
+{
+    print(delivery.stray, delivery.cut);
+    fail({{u"REPLY_STRAY"_s}}, ExitCode::Incomplete);
+}
+
 /// What a phone sends must not steer the terminal; a file gets the text as it came.
 void SendErrand::print(const QString &reply, bool cut)
 {
@@ -77,6 +83,6 @@ void SendErrand::end(ExitCode code)
 void SendErrand::release(Release why, const Delivery &partial)
 {
     Q_UNUSED(why)
-    if (!partial.reply.isEmpty())
-        print(partial.reply, partial.cut);
+    if (const QString came = partial.reply + partial.stray; !came.isEmpty())
+        print(came, partial.cut);
 }

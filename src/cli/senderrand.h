@@ -18,6 +18,7 @@ public:
 
     void start() override;
     void take(const Delivery &delivery) override;
+    void takeStray(const Delivery &delivery) override;
     void resume() override {}
     void release(Release why, const Delivery &partial) override;
 

@@ -82,6 +82,7 @@ bool MasterScreen::transmit(const QString &command, Way way)
 {
     if (!(session().*way)(kCode, command))
         return false;
+    forgetStray();
     expectReply(command);
     return true;
 }
@@ -115,6 +116,7 @@ void MasterScreen::unjudge()
 /// Another phone may be connected. The recording stays: it may be in the middle of being edited.
 void MasterScreen::clearReadings()
 {
+    forgetStray();
     forgetReply();
     if (m_erases)
         m_txtConsole.clear();
@@ -164,13 +166,14 @@ void MasterScreen::release(Release why, const Delivery &partial)
     Q_UNUSED(why)
     m_longReply = false;
     expectReply(partial.command);
-    if (partial.reply.isEmpty())
+    if (partial.reply.isEmpty() && partial.stray.isEmpty())
         emit consoleReplaced();
     else
         showReply(partial);
     compare();
 }
 
+/// What is no answer is shown too, but compared with nothing.
 void MasterScreen::showReply(const Delivery &delivery)
 {
     const auto withoutCommand = [&](QString text) {
@@ -179,9 +182,10 @@ void MasterScreen::showReply(const Delivery &delivery)
     m_cut = delivery.cut;
     m_replyCommand = delivery.command;
     m_reply = withoutCommand(delivery.reply);
-    m_txtConsole = m_erases ? m_reply : withoutCommand(m_txtConsole) + "\r\n"_L1 + delivery.reply;
+    const QString shown = delivery.reply + delivery.stray;
+    m_txtConsole = m_erases ? withoutCommand(shown) : withoutCommand(m_txtConsole) + "\r\n"_L1 + shown;
     m_txtConsole = m_txtConsole.right(kMostConsole);
-    if (m_showsHistory && delivery.command.startsWith("HELP"_L1, Qt::CaseInsensitive)) {
+    if (m_showsHistory && delivery.stray.isEmpty() && delivery.command.startsWith("HELP"_L1, Qt::CaseInsensitive)) {
         m_txtHelpAux = m_reply;
         emit helpAuxReplaced();
     }

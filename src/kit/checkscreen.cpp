@@ -90,6 +90,7 @@ void CheckScreen::refuseModel()
 void CheckScreen::begin()
 {
     m_delivery = {};
+    forgetStray();
     m_isReading = true;
     m_isJudged = false;
     m_isRefused = false;
@@ -110,9 +111,9 @@ void CheckScreen::take(const Delivery &delivery)
     if (delivery.reply.isEmpty())
         session().refuse({u"IGNORED_EMPTY_REPLY"_s});
     Timer1_Timer();
-}
     if (m_isReading && session().isSavedReply()) // nothing more will come
         end();
+}
 
 void CheckScreen::Timer1_Timer()
 {
@@ -163,6 +164,7 @@ void CheckScreen::TimerBarra_Timer()
 void CheckScreen::forget()
 {
     m_delivery = {};
+    forgetStray();
     m_isJudged = false;
     m_isRefused = false;
     rebuild();

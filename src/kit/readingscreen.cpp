@@ -31,6 +31,7 @@ void ReadingScreen::forgetReading()
 {
     m_txtDados.clear();
     m_cut = false;
+    forgetStray();
 }
 
 void ReadingScreen::begin()

@@ -36,10 +36,14 @@ public:
     virtual void read() = 0;
     /// A reply was read and judged.
     virtual bool hasReading() const = 0;
+    /// The last reply was no answer to what was asked: it is not known whether anything is good.
+    bool isStray() const { return m_isStray; }
     /// There is something to tell: a reading, or that the model has none.
     virtual bool hasAnswer() const { return hasReading(); }
     /// Hidden screens run no timers.
     virtual void setShown(bool shown) { Q_UNUSED(shown) }
+
+    void takeStray(const Delivery &delivery) override;
 
 signals:
     void panelChanged();
@@ -54,6 +58,8 @@ protected:
     QString caption(QStringView key) const;
     /// Replaces what the reading gave; `state` are the fields that the screen itself sets on top.
     void show(const Panel &reading, const QMap<QString, Field> &state);
+    /// Another question is asked, or none any more.
+    void forgetStray() { m_isStray = false; }
 
     /// Runs work on the store; a failure is told by the session.
     template <typename T>
@@ -67,4 +73,5 @@ private:
     QString m_name;
     Panel m_reading;
     Panel m_panel;
+    bool m_isStray = false;
 };

@@ -121,9 +121,9 @@ void BuckTesteScreen::take(const Delivery &delivery)
     const int buck = m_waiting.takeFirst();
     if (m_isCancelled && delivery.cut)
         return end();
-    if (delivery.reply.isEmpty())
+    if (delivery.reply.isEmpty() && !isStray())
         session().refuse({u"IGNORED_EMPTY_REPLY"_s});
-    else if (delivery.cut)
+    else if (delivery.cut && !isStray())
         session().refuse({u"REPLY_CUT"_s});
     m_input.replies.append({buck, delivery.reply, delivery.cut, delivery.recording});
     if (delivery.cut)
@@ -158,6 +158,7 @@ void BuckTesteScreen::Botao2_Click()
 
 void BuckTesteScreen::forget()
 {
+    forgetStray();
     m_input.replies.clear();
     m_asked.clear();
     m_waiting.clear();

@@ -182,6 +182,7 @@ void ReferenciasScreen::release(Release why, const Delivery &partial)
 {
     if (!std::exchange(m_isAskingSerial, false))
         return ReadingScreen::release(why, partial);
+    forgetStray(); // the reading before stands
     rebuild();
 }
 

@@ -10,10 +10,11 @@
 struct Delivery
 {
     QString command;
-    QString reply;        ///< as the console shows it; empty when not one byte came
+    QString reply = {};   ///< as the console shows it; empty when no answer came
     bool cut = false;     ///< not the whole reply, or the phone's prompt never came: it must not be judged good
     bool isBound = false; ///< for screens that show recordings: the one of this model and command was looked for
     std::optional<KeptRecording> recording = {};
+    QString stray = {}; ///< what came without the echo of the command: no answer to it, and judged by nobody
 };
 
 /// Why a waiting screen gets its reply no more.
@@ -21,7 +22,8 @@ enum class Release
 {
     LinkLost,
     Disconnected,
-    ModelUnknown
+    ModelUnknown,
+    NoAnswer ///< what came is no answer to what was asked
 };
 
 /// A screen as the session sees it: it takes the replies of its code.
@@ -31,6 +33,8 @@ public:
     virtual ~Receiver() = default;
 
     virtual void take(const Delivery &delivery) = 0;
+    /// What came is `stray` text alone.
+    virtual void takeStray(const Delivery &delivery) { release(Release::NoAnswer, delivery); }
     /// The model that the screen asked for is known now: the reading goes on.
     virtual void resume() = 0;
     /// The reply will not come. `partial` holds what had come, marked cut.

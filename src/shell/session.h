@@ -202,6 +202,7 @@ private:
     void lose();
 
     void acceptHandshake();
+    void learnEcho();
     void refuseHandshake();
     void sendModelQuery(QTimer &watch);
     void readModelRecord();
@@ -232,6 +233,7 @@ private:
     QString m_st1;
     bool m_accepted = false;
     bool m_isSavedReply = false;
+    bool m_echoes = true; ///< the phone: without an echo of its command nothing is an answer
     int m_handshakeTicks = 0;
 
     QString m_portText;

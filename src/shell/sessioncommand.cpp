@@ -4,6 +4,7 @@
 
 #include "commandguard.h"
 #include "linebytes.h"
+#include "ownecho.h"
 #include "replycodes.h"
 
 #include <utility>
@@ -12,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 /// What the console keeps of one reply, its beginning; the exchange log has all of it.
 static constexpr qsizetype kMostConsole = 12 << 20;
+/// What every reply begins with.
+static constexpr auto kConsoleStart = "\r\n"_L1;
 
 bool Session::maySend(const QString &command)
 {
@@ -19,14 +22,14 @@ bool Session::maySend(const QString &command)
         m_parts.boxes.message({{u"MSG_SYSCFG"_s}});
         return false;
     }
-    if (!isReady())
-        refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
-    return isReady();
-}
     if (const Result<QByteArray> line = lineBytes(command); !line) {
         refuse(line.trouble().what);
         return false;
     }
+    if (!isReady())
+        refuse({isConnected() ? u"REFUSED_BUSY"_s : u"REFUSED_NOT_CONNECTED"_s});
+    return isReady();
+}
 
 bool Session::requestInstead(const QString &code, const QString &command)
 {
@@ -74,13 +77,13 @@ void Session::EnviaComando()
         return refuse({u"REFUSED_NOT_CONNECTED"_s});
     if (isInFlight())
         return refuse({u"REFUSED_BUSY"_s});
+    const Result<QByteArray> line = lineBytes(m_txtComandos);
+    if (!line)
+        return refuse(line.trouble().what);
     m_parts.port.discardInput();
     m_timer1.start();
     enter(u'3', u"Comunicando"_s);
     m_parts.port.write(*line);
-    const Result<QByteArray> line = lineBytes(m_txtComandos);
-    if (!line)
-        return refuse(line.trouble().what);
 }
 
 /// In one go: replacing them moves the rest of a flood again and again.
@@ -119,7 +122,7 @@ void Session::startConsole()
     m_timer1.stop();
     m_anyByte = false;
     m_cut = false;
-    m_txtConsole = u"\r\n"_s;
+    m_txtConsole = kConsoleStart;
 }
 
 void Session::Timer1_Timer()
@@ -146,10 +149,17 @@ void Session::advance(const Gathering &next)
     BuscaDadosGravados();
 }
 
+/// What came, from the phone's echo on where one is owed.
 Delivery Session::delivery() const
 {
-    const QString reply = m_anyByte ? replyForCode(m_code, m_txtConsole, m_txtComandos) : QString();
-    return {m_txtComandos, reply, m_cut || !m_txtConsole.contains(QLatin1StringView(kPrompt))};
+    static constexpr auto kWhole = OwnEcho{true, kConsoleStart.size()};
+    const bool owesEcho = m_echoes && !m_isSavedReply;
+    const OwnEcho echo = owesEcho ? ownEcho(m_txtConsole, m_txtComandos) : kWhole;
+    if (!m_anyByte || !echo.isFound)
+        return {.command = m_txtComandos, .cut = true, .stray = m_anyByte ? m_txtConsole : QString()};
+    const QString answer = kConsoleStart + m_txtConsole.sliced(echo.begin);
+    const bool cut = m_cut || !answer.contains(QLatin1StringView(kPrompt));
+    return {.command = m_txtComandos, .reply = replyForCode(m_code, answer, m_txtComandos), .cut = cut};
 }
 
 void Session::BuscaDadosGravados()
@@ -186,6 +196,9 @@ void Session::deliver(const Delivery &finished)
 {
     const QString code = std::exchange(m_code, kMainWindowCode);
     enter(u'1', m_accepted ? u"Conectado"_s : m_st1);
-    if (Receiver *receiver = m_receivers.value(code))
+    Receiver *receiver = m_receivers.value(code);
+    if (receiver && finished.stray.isEmpty())
         receiver->take(finished);
+    else if (receiver)
+        receiver->takeStray(finished);
 }

@@ -3,6 +3,7 @@
 #include "session.h"
 
 #include "catalogue.h"
+#include "ownecho.h"
 #include "railrows.h"
 #include "replycodes.h"
 #include "settings.h"
@@ -41,7 +42,16 @@ void Session::acceptHandshake()
     m_timerValidaPorta.stop();
     m_accepted = true;
     enter(u'1', u"Conectado"_s);
+    learnEcho();
     readModelRecord();
+}
+
+/// A phone that does not echo could never answer: of its replies none is asked for.
+void Session::learnEcho()
+{
+    m_echoes = ownEcho(m_txtConsole, QString(kModelQuery)).isFound;
+    if (!m_echoes)
+        refuse({u"PHONE_WITHOUT_ECHO"_s});
 }
 
 void Session::readModelRecord()

@@ -30,6 +30,8 @@ QList<Judgement> judgementsOf(const SurveyAnswer &answer, const SurveyInput &inp
 {
     if (!answer.step.judge)
         return {};
+    if (!answer.stray.isEmpty())
+        return {gap(answer, input.language, u"Outra resposta")};
     if (answer.reply.trimmed().isEmpty())
         return {gap(answer, input.language, u"Sem resposta")};
     QList<Judgement> judgements = answer.step.judge(input);

@@ -10,6 +10,7 @@ struct SurveyAnswer
     QString reply; ///< as the phone sent it
     bool cut = false;
     std::chrono::milliseconds took{0};
+    QString stray = {}; ///< what came in place of a reply
 };
 
 /// What an answer is judged as: the reply as its screen would get it.

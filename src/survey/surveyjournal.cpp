@@ -82,7 +82,8 @@ void SurveyJournal::keep(const SurveyRun &run)
     entry.isKnown = m_isKnown;
     for (; m_answers < run.answers.size(); ++m_answers) {
         const SurveyAnswer &answer = run.answers.at(m_answers);
-        entry.replies.append({static_cast<int>(m_answers), answer.step.command, answer.reply, answer.cut});
+        entry.replies.append(
+            {static_cast<int>(m_answers), answer.step.command, answer.reply + answer.stray, answer.cut});
     }
     QList<JournalFinding> findings;
     for (const Finding &finding : run.findings(run.language)) {
@@ -105,8 +106,8 @@ void SurveyJournal::write(const JournalEntry &entry)
             m_isWritten = bool(written);
             if (written) {
                 m_hasFailed = false;
-                return;
                 m_isKnown = m_isKnown || entry.survey.id == m_survey.id;
+                return;
             }
             m_unwritten.replies = entry.replies + m_unwritten.replies;
             m_unwritten.findings = entry.findings + m_unwritten.findings;

@@ -27,11 +27,11 @@ QString SurveyRun::serial() const
     return asked == answers.end() ? QString() : serialIn(asked->reply);
 }
 
-void takeAnswer(SurveyRun &run, const QString &reply, bool cut, std::chrono::milliseconds took)
+void takeAnswer(SurveyRun &run, const Delivery &delivery, std::chrono::milliseconds took)
 {
-    SurveyAnswer answer{run.waiting.takeFirst(), reply, cut, took};
+    SurveyAnswer answer{run.waiting.takeFirst(), delivery.reply, delivery.cut, took, delivery.stray};
     const SurveyStep &step = answer.step;
-    if (step.needsRemedy && !cut && step.needsRemedy(inputOf(answer, run.model, run.language, run.reference))) {
+    if (step.needsRemedy && !answer.cut && step.needsRemedy(inputOf(answer, run.model, run.language, run.reference))) {
         SurveyStep again = step;
         again.needsRemedy = nullptr;
         run.waiting.prepend(again);

@@ -2,6 +2,8 @@
 
 #include "surveyfindings.h"
 
+#include "receiver.h"
+
 #include <QDateTime>
 
 /// How a survey ended.
@@ -38,7 +40,7 @@ struct SurveyRun
 
 /// Takes the reply to the first step that waits. Where it calls for a remedy that and the same question come next, and
 /// what the reply said counts no more.
-void takeAnswer(SurveyRun &run, const QString &reply, bool cut, std::chrono::milliseconds took);
+void takeAnswer(SurveyRun &run, const Delivery &delivery, std::chrono::milliseconds took);
 
 /// A survey that did not come to its end is never good, and neither is one that was broken off before it judged
 /// anything.

@@ -154,7 +154,7 @@ void SurveyScreen::takeReply(const Delivery &delivery)
     m_repeats = 0;
     const SurveyStep step = m_run.waiting.first();
     const auto took = std::chrono::milliseconds(m_sinceAsked.elapsed()) + step.rest;
-    takeAnswer(m_run, delivery.reply, delivery.cut, took);
+    takeAnswer(m_run, delivery, took);
     m_rest = step.rest;
     if (m_journaling == Journaling::Kept)
         m_journal.keep(m_run);

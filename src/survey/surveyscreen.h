@@ -67,6 +67,8 @@ public:
     QString currentPart() const;
 
     void take(const Delivery &delivery) override;
+    /// As good as no answer; what comes late is let pass, and the question asked again.
+    void takeStray(const Delivery &delivery) override { take(delivery); }
     void resume() override { load(); }
     void release(Release why, const Delivery &partial) override;
 

@@ -47,6 +47,7 @@ static constexpr CaptionRow kWorkbenchCaptions[] = {
     {u"desconhecido", u"desconhecido", u"unknown", u"desconocido"},
     {u"syscfg", u"syscfg list", u"syscfg list", u"syscfg list"},
     {u"Sem resposta", u"Sem resposta", u"No answer", u"Sin respuesta"},
+    {u"Outra resposta", u"Não é a resposta", u"Not its answer", u"No es la respuesta"},
     {u"preset limit (setting battery-worn)", u"limite padrão (ajuste battery-worn)",
      u"preset limit (setting battery-worn)", u"límite predeterminado (ajuste battery-worn)"},
     {u"setting battery-worn", u"ajuste battery-worn", u"setting battery-worn", u"ajuste battery-worn"},

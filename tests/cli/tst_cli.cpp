@@ -284,6 +284,10 @@ private slots:
         add("no such button", u"run display --button bl:6 --port 1"_s, 2, "bl:6");
         add("no such model", u"judge buckldo --model \"IP 9\" --reply -"_s, 2, "--model");
         add("nothing to send", u"send \" \" --port 1"_s, 2, "command");
+        add("two lines to send", u"send \"a\rShutdown\" --port 1"_s, 2, "U+000D");
+        add("two lines to show", u"run display --text \"a\nb\" --port 1"_s, 2, "U+000A");
+        add("blanks to show", u"run display --text \"  \" --port 1"_s, 2, "blanks");
+        add("what no line carries", u"record --command \"a\u263A\" --port 1"_s, 2, "U+263A");
         add("no phone and no reply", u"compare --command x"_s, 2, "--port or --reply");
         add("a reply of no model", u"compare --command x --reply -"_s, 2, "--model");
         add("a log that cannot be", u"send sn --port \"sim:IP 7\" --log /no/such/log --lang en"_s + home, 2,
@@ -292,10 +296,6 @@ private slots:
         add("the same to be compared", u"compare --command \"syscfg add\" --port \"sim:IP 7\""_s + home, 2, "SYSCFG");
         add("a command that cannot be stored", u"record --command \"a'b\" --port \"sim:IP 7\" --lang en"_s + home, 2,
             "apostrophe");
-        add("two lines to send", u"send \"a\rShutdown\" --port 1"_s, 2, "U+000D");
-        add("two lines to show", u"run display --text \"a\nb\" --port 1"_s, 2, "U+000A");
-        add("blanks to show", u"run display --text \"  \" --port 1"_s, 2, "blanks");
-        add("what no line carries", u"record --command \"a\u263A\" --port 1"_s, 2, "U+263A");
         add("no such file", u"judge buckldo --model \"IP 7\" --reply /no/such/file"_s, 2, "/no/such/file");
         add("a folder as file", u"judge buckldo --model \"IP 7\" --reply "_s + m_home.path(), 2, folder);
         add("no store", kJudge + "--home /no/such/folder"_L1, 4, "/no/such/folder");

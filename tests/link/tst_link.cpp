@@ -1,4 +1,6 @@
 #include "columns.h"
+#include "linebytes.h"
+#include "ownecho.h"
 #include "portaddress.h"
 #include "portlist.h"
 #include "replayport.h"
@@ -46,6 +48,50 @@ class TestLink : public QObject
     Q_OBJECT
 
 private slots:
+    void echoIsAWholeLineOfItsOwn_data()
+    {
+        columns<QString, qsizetype>({"gathered", "begin"});
+        const auto row = [](const char *name, const QString &gathered, qsizetype begin) {
+            QTest::newRow(name) << gathered << begin;
+        };
+        row("at the start", u"\r\ni2c -s 1\r\r\n0x75\r\n[8D4FBF00:BD229EF5] :-) "_s, 2);
+        row("behind a prompt", u"tail\r\n[8D4FBF00:BD229EF5] :-) i2c -s 1\r\n0x75"_s, 30);
+        row("of two the last", u"i2c -s 1\r\nlate\r\n:-) i2c -s 1\r\n0x75"_s, 20);
+        row("nothing behind it yet", u"i2c -s 1"_s, 0);
+        row("not yet whole", u"i2c -s "_s, -1);
+        row("of a longer command", u"i2c -s 10\r\n0x75\r\n:-) "_s, -1);
+        row("within a line", u"no i2c -s 1\r\n:-) "_s, -1);
+        row("a line of a tail", u"help\r\ni2c -s 1\r\n:-) "_s, -1);
+        row("a tail alone", u"Key: 1\r\n[8D4FBF00:BD229EF5] :-) "_s, -1);
+        row("nothing", u""_s, -1);
+    }
+
+    void echoIsAWholeLineOfItsOwn()
+    {
+        QFETCH(const QString, gathered);
+        QFETCH(const qsizetype, begin);
+        for (const QString &command : {u"i2c -s 1"_s, u" i2c -s 1 "_s}) { // blanks around it are sent as they are
+            const OwnEcho echo = ownEcho(gathered, command);
+            QCOMPARE(echo.isFound ? echo.begin : -1, begin);
+        }
+        QVERIFY(!ownEcho(gathered, {}).isFound);
+    }
+
+    void lineCarriesLatin1Alone()
+    {
+        QCOMPARE(*lineBytes(u"bl \u00A0\u00E9\u00FF"_s), QByteArray("bl \xA0\xE9\xFF\r"));
+        const QList<QStringList> refused = {{u"a\rb"_s, u"U+000D"_s, u"2"_s},
+                                            {u"\u007F"_s, u"U+007F"_s, u"1"_s},
+                                            {u"ab\u009F"_s, u"U+009F"_s, u"3"_s},
+                                            {u"\u0100"_s, u"U+0100"_s, u"1"_s},
+                                            {u"\U0001F4F1\n"_s, u"U+1F4F1"_s, u"1"_s}};
+        for (const QStringList &row : refused) {
+            const Result<QByteArray> line = lineBytes(row.first());
+            QVERIFY(!line);
+            QCOMPARE(line.trouble().what.arguments, row.sliced(1));
+        }
+    }
+
     void replyEndsOnTheRightPoll_data()
     {
         columns<QList<QByteArray>, EndOfReply, int, int>({"reads", "end", "limit", "followUps"});

@@ -94,7 +94,7 @@ public:
     void resume() override { events.append(u"resumed"_s); }
     void release(Release why, const Delivery &partial) override
     {
-        static const QStringList kReasons = {u"lost"_s, u"disconnected"_s, u"no model"_s};
+        static const QStringList kReasons = {u"lost"_s, u"disconnected"_s, u"no model"_s, u"no answer"_s};
         remember(kReasons.at(static_cast<int>(why)), partial);
     }
 

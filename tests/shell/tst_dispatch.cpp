@@ -11,12 +11,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// A phone that prints something else in the place of the echo is judged without one.
+constexpr auto kNoEcho = "regulatory model number #";
+
 /// A connected session that knows its phone, its log still empty.
 struct ReadyBench : SessionBench
 {
-    ReadyBench()
+    explicit ReadyBench(const QByteArray &echo = "syscfg print RMd#")
     {
-        accept("A1660");
+        connectWith(answered(echo, "A1660"));
+        session.TimerValidaPorta_Timer();
         log.clear();
         port.journal.clear();
     }
@@ -107,7 +111,7 @@ private slots:
         QFETCH(QString, speed);
         QFETCH(QString, command);
         QFETCH(QList<QByteArray>, chunks);
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         bench.session.attach(code, &bench.screen);
         bench.session.chooseSpeed(speed);
         bench.port.answers = {chunks};
@@ -142,9 +146,54 @@ private slots:
             QCOMPARE(screen.events.size(), 1); // each its own reply and no other's
     }
 
+    void answerBeginsAtItsEcho_data()
+    {
+        columns<QByteArray, QString, bool>({"came", "taken", "cut"});
+        const QByteArray tail = "Key: 1\n[0:0] :-) ";
+        QTest::newRow("a tail alone") << tail << QString() << true;
+        QTest::newRow("before the answer") << tail + "cmd\r\nok\n:-) " << u"\r\ncmd\r\r\nok\r\n:-) "_s << false;
+        QTest::newRow("whose end is late")
+            << tail + "cmd\r\nok" << u"\r\ncmd\r\r\nok"_s << true; // the prompt is not its own
+        QTest::newRow("another command's") << QByteArray("cmds\r\nok\n:-) ") << QString() << true;
+    }
+
+    void answerBeginsAtItsEcho()
+    {
+        QFETCH(const QByteArray, came);
+        QFETCH(const QString, taken);
+        ReadyBench bench;
+        bench.port.answers = {{came}};
+        QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
+        bench.deliver();
+        QCOMPARE(bench.screen.events, QStringList{taken.isEmpty() ? u"no answer"_s : u"taken"_s});
+        QCOMPARE(bench.screen.last.reply, taken);
+        QCOMPARE(bench.screen.last.stray.isEmpty(), !taken.isEmpty());
+        QTEST(bench.screen.last.cut, "cut");
+    }
+
+    /// At the next phone the echo is owed again.
+    void phoneWithoutEchoIsToldOnce()
+    {
+        SessionBench bench;
+        bench.connectWith(answered(kNoEcho, "A1660"));
+        bench.session.TimerValidaPorta_Timer();
+        const auto asked = [&bench] {
+            bench.port.answers = {{"ok\n:-) "}};
+            bench.session.request(u"15"_s, u"cmd"_s);
+            bench.deliver();
+            return bench.screen.events.takeLast();
+        };
+        QCOMPARE(asked(), u"taken"_s);
+        QCOMPARE(asked(), u"taken"_s);
+        QCOMPARE(bench.log.count(u"PHONE_WITHOUT_ECHO"_s), 1);
+        bench.session.connectOrDisconnect(u"3"_s);
+        bench.accept("A1660");
+        QCOMPARE(asked(), u"no answer"_s);
+    }
+
     void recordingComesWithItsCodes()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         {
             Result<Store> store = Store::open(bench.path, Store::Access::Write, 1s);
             QVERIFY(bool(saveRecording(*store, {u"IP 7"_s, u"HELP"_s, u"kept"_s})));
@@ -165,7 +214,7 @@ private slots:
 
     void recordingIsWaitedFor()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         Listener console;
         bench.session.attach(u"1"_s, &console);
         const auto answeredWhileLocked = [&] {
@@ -197,7 +246,7 @@ private slots:
 
     void stopDeliversWhatCame()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         const auto stopAfter = [&](int polls, const QList<QByteArray> &chunks) {
             bench.port.answers = {chunks};
             if (!bench.session.request(u"15"_s, u"cmd"_s))
@@ -225,7 +274,7 @@ private slots:
 
     void anotherCommandInstead()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         bench.port.answers = {{"counting", "more"}, {"/q\r\n:-) "}};
         QVERIFY(bench.session.request(u"15"_s, u"buttoncnt --dqe"_s));
         bench.session.Timer1_Timer();
@@ -255,9 +304,22 @@ private slots:
         QCOMPARE(bench.port.journal.isEmpty(), bench.log == QStringList{u"MSG_SYSCFG"_s});
     }
 
+    /// Every command goes through here, wherever it was typed.
+    void onlyOneLineIsWritten()
+    {
+        for (const QString &command :
+             {u"a\rShutdown\r"_s, u"a\nb"_s, u"a"_s + QChar(0), u"a\tb"_s, u"a\u0085b"_s, u"a\u263Ab"_s}) {
+            ReadyBench bench;
+            QVERIFY(!bench.session.request(u"15"_s, command));
+            QVERIFY(!bench.session.requestInstead(u"15"_s, command));
+            QVERIFY(bench.port.journal.isEmpty());
+            QCOMPARE(bench.log, QStringList({u"COMMAND_NOT_ONE_LINE"_s, u"COMMAND_NOT_ONE_LINE"_s}));
+        }
+    }
+
     void consoleKeepsAnEndlessReplyInBounds()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         qsizetype appended = 0;
         QObject::connect(&bench.session, &Session::consoleAppended, &bench.session,
                          [&](const QString &text) { appended += text.size(); });
@@ -272,7 +334,7 @@ private slots:
 
     void lateReplyOfAClosedScreen()
     {
-        ReadyBench bench;
+        ReadyBench bench(kNoEcho);
         Listener again;
         bench.port.answers = {{"ok\n", ":-) "}, {"ok\n:-) "}};
         QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
@@ -304,26 +366,15 @@ private slots:
         const QByteArray reply = answered("cmd", "value 1.0 mV");
         for (qsizetype bytes = 0; bytes <= 2 * reply.size(); ++bytes) {
             const QByteArray came = reply.left(bytes / 2);
-    /// Every command goes through here, wherever it was typed.
-    void onlyOneLineIsWritten()
-    {
-        for (const QString &command :
-             {u"a\rShutdown\r"_s, u"a\nb"_s, u"a"_s + QChar(0), u"a\tb"_s, u"a\u0085b"_s, u"a\u263Ab"_s}) {
-            ReadyBench bench;
-            QVERIFY(!bench.session.request(u"15"_s, command));
-            QVERIFY(!bench.session.requestInstead(u"15"_s, command));
-            QVERIFY(bench.port.journal.isEmpty());
-            QCOMPARE(bench.log, QStringList({u"COMMAND_NOT_ONE_LINE"_s, u"COMMAND_NOT_ONE_LINE"_s}));
-        }
-    }
-
             bench.port.answers = {{came}};
             QVERIFY(bench.session.request(u"15"_s, u"cmd"_s));
             if (bytes % 2 && !came.isEmpty())
                 bench.session.Timer1_Timer(); // else the bytes are still in the port
             bench.port.die();
             QCOMPARE(bench.screen.events, QStringList{u"lost"_s});
-            QCOMPARE(bench.screen.last.reply, came.isEmpty() ? QString() : shown(came));
+            const Delivery &last = bench.screen.last;
+            QCOMPARE(last.reply + last.stray, came.isEmpty() ? QString() : shown(came));
+            QCOMPARE(last.reply.isEmpty(), bytes / 2 < 3); // before the echo is whole it is none
             QVERIFY(bench.screen.last.cut);
             QCOMPARE(bench.session.Status(), u"0"_s);
             QCOMPARE(bench.title, u"Tavimo Prelt"_s);

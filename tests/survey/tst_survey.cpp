@@ -230,6 +230,19 @@ private slots:
         QCOMPARE(bench.open(), QStringList());
     }
 
+    /// The tail of another command is no answer, and what it might have told is no finding.
+    void strayReplyIsNotJudged()
+    {
+        SurveyBench bench(u"IP 7"_s);
+        bench.port.before = "BIST ldo2: 1.0000 mV\n[0:0] :-) ";
+        bench.port.answers = false;
+        bench.runAll();
+        QCOMPARE(bench.survey.reading().verdict, Verdict::Incomplete);
+        QCOMPARE(bench.finding(u"Tensões: pmuadc --read all"_s).reading, u"Não é a resposta"_s);
+        QVERIFY(bench.found(FindingVerdict::Pass).isEmpty() && bench.found(FindingVerdict::Fail).isEmpty());
+        QVERIFY(bench.kept().replies.value(1).reply.contains("BIST ldo2"_L1)); // what went over the line is kept
+    }
+
     void brokenOffBeforeAnythingWasJudged()
     {
         SurveyBench bench(u"IP 6s"_s);
