@@ -8,8 +8,10 @@ using namespace std::chrono_literals;
 
 Bench::Bench(const CommonOptions &options)
     : m_store(configStore(homeFolder(options.home)), StoreQueue::Waiting::Blocking),
+      m_log(std::make_unique<ExchangeLog>(stateFolder())),
       m_port(std::make_unique<SerialPort>())
 {
+    m_log->watch(*m_port);
     start(options, {});
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchangelog.h"
 #include "options.h"
 #include "portresolver.h"
 #include "session.h"
@@ -18,6 +19,8 @@ public:
 
     Session &session() { return *m_session; }
     Port &port() { return *m_port; }
+    /// The log that the window writes too; a saved reply has none.
+    ExchangeLog *log() const { return m_log.get(); }
     TerminalBoxes &boxes() { return m_boxes; }
 
 private:
@@ -26,6 +29,7 @@ private:
     StoreQueue m_store;
     TerminalBoxes m_boxes{Language::Portuguese};
     PortResolver m_resolver;
+    std::unique_ptr<ExchangeLog> m_log; ///< outlives the port, which tells its last bytes when it closes
     std::unique_ptr<Port> m_port;
     std::unique_ptr<Session> m_session;
 };

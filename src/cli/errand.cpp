@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 Errand::Errand(CommonOptions options) : m_options(std::move(options)), m_bench(m_options)
 {
     watchSession();
+    watchLog(*m_bench.log());
 }
 
 Errand::Errand(CommonOptions options, const QByteArray &reply)
@@ -35,6 +36,15 @@ void Errand::watchSession()
     });
     connect(&m_timeout, &QTimer::timeout, this, &Errand::timedOut);
     m_timeout.setSingleShot(true);
+}
+
+/// A log that takes nothing changes no verdict.
+void Errand::watchLog(ExchangeLog &log)
+{
+    const auto tell = [this](const Trouble &trouble) { printError(oneLine(trouble, language())); };
+    connect(&log, &ExchangeLog::notWritten, this, tell);
+    connect(&log, &ExchangeLog::dropped, this, tell);
+    connect(this, &Errand::finished, &log, &ExchangeLog::flush);
 }
 
 void Errand::linkWasLost()

@@ -40,6 +40,7 @@ protected:
 
 private:
     void watchSession();
+    void watchLog(ExchangeLog &log);
 
     CommonOptions m_options;
     Bench m_bench;

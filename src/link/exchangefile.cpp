@@ -4,30 +4,32 @@
 #include <QDateTime>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <tuple>
-
 using namespace Qt::StringLiterals;
+
+static QString numbered(int number, int digits)
+{
+    return u"-%1"_s.arg(number, digits, 10, QLatin1Char('0'));
+}
 
 ExchangeFile::ExchangeFile(const QString &folder, const ExchangeLimits &limits)
     : m_folder(folder),
-      m_stem(QDateTime::currentDateTimeUtc().toString(u"'exchange-'yyyyMMdd-HHmmsszzz"_s) +
-             u"-%1"_s.arg(QCoreApplication::applicationPid())),
+      m_session(QDateTime::currentDateTimeUtc().toString(u"'exchange-'yyyyMMdd-HHmmsszzz"_s) +
+                u"-%1"_s.arg(QCoreApplication::applicationPid())),
       m_limits(limits)
 {
 }
 
-QString ExchangeFile::nameOf(int part) const
+/// A connection's name stands before the last hyphen of its files' names.
+QString ExchangeFile::connection() const
 {
-    return m_folder.filePath(u"%1-%2.log"_s.arg(m_stem).arg(part, 4, 10, QLatin1Char('0')));
+    return m_session + numbered(m_connection, 3);
 }
 
-QStringList ExchangeFile::files() const
+void ExchangeFile::beginConnection()
 {
-    QStringList names;
-    for (int part = 1; part <= m_parts; ++part)
-        names.append(nameOf(part));
-    return names;
+    m_file.close();
+    m_connection += m_parts > 0 ? 1 : 0;
+    m_parts = 0;
 }
 
 bool ExchangeFile::append(const QByteArray &lines)
@@ -47,28 +49,29 @@ bool ExchangeFile::begin()
 {
     m_file.close();
     m_folder.mkpath(u"."_s);
-    makeRoom();
-    m_file.setFileName(nameOf(m_parts + 1));
+    const QByteArray dropped = makeRoom();
+    m_file.setFileName(m_folder.filePath(connection() + numbered(m_parts + 1, 4) + u".log"_s));
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::NewOnly | QIODevice::Unbuffered))
         return false;
     ++m_parts;
+    m_files.append(m_file.fileName());
     m_file.setPermissions(QFile::ReadOwner | QFile::WriteOwner); // it holds serial numbers of customers' phones
-    m_size = m_file.write(kExchangeHeading);
+    m_size = m_file.write(kExchangeHeading + dropped);
     return m_size > 0;
 }
 
-/// By the time of the last write, so that a session that still runs elsewhere keeps its file.
-void ExchangeFile::makeRoom()
+/// Gives the lines that say what had to go.
+QByteArray ExchangeFile::makeRoom()
 {
-    QFileInfoList old = m_folder.entryInfoList({u"exchange-*.log"_s}, QDir::Files);
-    std::ranges::sort(old, {}, [](const QFileInfo &file) { return std::tuple(file.lastModified(), file.fileName()); });
-    qint64 total = m_limits.file; // what the new one may grow to
-    for (const QFileInfo &file : std::as_const(old))
-        total += file.size();
-    for (const QFileInfo &file : std::as_const(old)) {
-        if (total <= m_limits.folder)
-            return;
-        if (QFile::remove(file.filePath()))
-            total -= file.size();
-    }
+    QList<ExchangePart> parts;
+    for (const QFileInfo &file : m_folder.entryInfoList({u"exchange-*.log"_s}, QDir::Files))
+        parts.append({file.filePath(), file.fileName().section(u'-', 0, -2), file.size(), file.lastModified()});
+    const ExchangeRoom room = roomFor(connection(), parts, m_limits);
+    QByteArray told;
+    for (const ExchangePart &part : room.dropped)
+        if (QFile::remove(part.path))
+            told += "# dropped to make room: " + QFileInfo(part.path).fileName().toUtf8() + ", " +
+                    QByteArray::number(part.size) + " bytes\n";
+    m_hasDroppedOfFlood = m_hasDroppedOfFlood || (room.hasFlood && !told.isEmpty());
+    return told;
 }

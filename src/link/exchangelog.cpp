@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kFlushEvery = 1000ms;
+constexpr auto kFlushEvery = 250ms;
 constexpr auto kRetryEvery = 60s;
 constexpr qsizetype kFlushAt = 64 << 10;
 constexpr qsizetype kChunkCost = 96; // what a chunk takes in memory beside its bytes
@@ -58,8 +58,15 @@ ExchangeLog::~ExchangeLog()
 void ExchangeLog::watch(Port &port)
 {
     using enum Exchange::Direction;
+    connect(&port, &Port::opened, this, &ExchangeLog::beginConnection);
     connect(&port, &Port::received, this, [this](const QByteArray &bytes) { take(FromPhone, bytes); });
     connect(&port, &Port::sent, this, [this](const QByteArray &bytes) { take(ToPhone, bytes); });
+}
+
+void ExchangeLog::beginConnection()
+{
+    flush();
+    m_file.beginConnection();
 }
 
 void ExchangeLog::take(Exchange::Direction direction, const QByteArray &bytes)
@@ -114,6 +121,7 @@ void ExchangeLog::flush()
             break;
         m_written = batch.end;
     }
+    tellDropped();
     if (!m_failing) {
         m_unwrittenBytes = 0;
         return;
@@ -121,6 +129,12 @@ void ExchangeLog::flush()
     m_timer.start(kRetryEvery);
     if (!std::exchange(m_told, true))
         emit notWritten({{u"LOG_NOT_WRITTEN"_s, {m_file.path(), m_file.error()}}});
+}
+
+void ExchangeLog::tellDropped()
+{
+    if (m_file.hasDroppedOfFlood() && !std::exchange(m_toldDropped, true))
+        emit dropped({{u"LOG_DROPPED"_s, {m_file.folder()}}});
 }
 
 Result<Done> ExchangeLog::saveTo(const QString &path)

@@ -23,6 +23,8 @@ public:
 
     /// Takes down what passes this port. To be called before the port is opened.
     void watch(Port &port);
+    /// What is taken down from now on is another connection's, with files of its own.
+    void beginConnection();
     void add(const Exchange &exchange);
 
     /// Chunks are numbered from 0; those from `first()` up to before `end()` are in memory.
@@ -44,6 +46,8 @@ signals:
     /// There are new chunks; also sent for each of a flood, so look at `end()` now and then instead of painting here.
     void added();
     void notWritten(const Trouble &trouble);
+    /// The log is full, and a connection that took more than its share lost its oldest part. Told once.
+    void dropped(const Trouble &trouble);
 
 private:
     struct Batch
@@ -54,6 +58,7 @@ private:
 
     void take(Exchange::Direction direction, const QByteArray &bytes);
     void dropOldest();
+    void tellDropped();
     Batch batchFrom(qint64 number) const;
 
     std::deque<Exchange> m_kept;
@@ -68,4 +73,5 @@ private:
     qsizetype m_unwrittenBytes = 0;
     bool m_failing = false;
     bool m_told = false;
+    bool m_toldDropped = false;
 };

@@ -25,6 +25,8 @@ public:
     virtual void discardInput() = 0;
 
 signals:
+    /// A connection begins; whatever passes from now on is another phone's, for all we know.
+    void opened(const QString &device);
     /// The line is gone and has been closed; sent once. What had arrived can still be read.
     void lost();
     /// Bytes as they pass, for the exchange log; also those that `discardInput` drops.

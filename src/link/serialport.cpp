@@ -47,6 +47,7 @@ Result<Done> SerialPort::open(const QString &device)
         m_lock.release(); // before the holder is looked for, who is not we
         return openError(device, error);
     }
+    emit opened(name);
     discardInput(); // bytes from before belong to nobody's command
     return Done{};
 }

@@ -60,6 +60,7 @@ Inicial::Inicial(const WindowParts &parts, QWidget *parent)
     connectWindow();
     connectReconnector();
     connect(&parts.log, &ExchangeLog::notWritten, this, &Inicial::showNotice);
+    connect(&parts.log, &ExchangeLog::dropped, this, &Inicial::showNotice);
     Traducao_Form_Inicial();
     listPorts();
     resize(1280, 800);

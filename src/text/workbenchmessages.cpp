@@ -314,6 +314,14 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
       u"The exchange log could not be written: %1\nFree some space or give write permission. The session goes on.\n%2",
       u"No se pudo guardar el registro de la comunicación: %1\nLibere espacio o dé permiso de escritura. La sesión "
       u"continúa.\n%2"}},
+    {u"LOG_DROPPED",
+     Information,
+     {u"O registro da comunicação está cheio: a parte mais antiga da comunicação mais longa foi descartada em %1. O "
+      u"próprio registro diz o quê.",
+      u"The exchange log is full: the oldest part of the longest exchange was dropped in %1. The log itself says what.",
+      u"El registro de la comunicación está lleno: se descartó la parte más antigua de la comunicación más larga en "
+      u"%1. "
+      u"El propio registro dice qué."}},
     // As the grid of rails has always said it: the index runs straight into the word, and a blank ends it.
     {u"UNKNOWN_INDEX", None, {u"%1NOT ", u"%1NOT ", u"%1NOT "}},
 

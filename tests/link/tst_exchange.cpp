@@ -62,8 +62,27 @@ QByteArray filesOf(const QString &folder)
 /// A log in a folder of its own.
 struct Bench
 {
-    explicit Bench(const ExchangeLimits &limits = {}) : log(path, limits), notWritten(&log, &ExchangeLog::notWritten) {}
+    explicit Bench(const ExchangeLimits &limits = {})
+        : log(path, limits), notWritten(&log, &ExchangeLog::notWritten), dropped(&log, &ExchangeLog::dropped)
+    {
+    }
 
+    /// A connection over which so many chunks come, each of a size.
+    void connection(int chunks, char byte)
+    {
+        log.beginConnection();
+        for (int i = 0; i < chunks; ++i) {
+            log.add({++time, FromPhone, QByteArray(480, byte)});
+            log.flush();
+        }
+    }
+    qint64 size() const
+    {
+        qint64 total = 0;
+        for (const QFileInfo &file : QDir(path).entryInfoList(QDir::Files))
+            total += file.size();
+        return total;
+    }
     QByteArray saved()
     {
         const QString file = folder.filePath(u"saved.txt"_s);
@@ -74,6 +93,8 @@ struct Bench
     QString path = folder.filePath(u"state/deep"_s);
     ExchangeLog log;
     QSignalSpy notWritten;
+    QSignalSpy dropped;
+    qint64 time = 0;
 };
 
 } // namespace
@@ -166,17 +187,53 @@ private slots:
             bench.log.add({i, FromPhone, QByteArray(480, 'x')});
             bench.log.flush();
         }
-        qint64 total = 0;
-        for (const QFileInfo &file : folder.entryInfoList(QDir::Files)) {
+        for (const QFileInfo &file : folder.entryInfoList(QDir::Files))
             QVERIFY(file.size() <= 2000);
-            total += file.size();
-        }
-        QVERIFY(total <= 8000);
-        QVERIFY(total > 4000);
+        QVERIFY(bench.size() <= 8000);
+        QVERIFY(bench.size() > 4000);
         QVERIFY(foreign.exists());
         const QList<Exchange> left = chunksIn(filesOf(bench.path));
         QCOMPARE(left.last().milliseconds, 59);
         QCOMPARE(left.size(), left.last().milliseconds - left.first().milliseconds + 1); // no hole
+    }
+
+    void floodLeavesOtherBoardsAlone()
+    {
+        Bench bench({.file = 2000, .folder = 8000});
+        bench.connection(1, 'a');
+        bench.connection(1, 'b');
+        bench.connection(60, 'x');
+        bench.connection(1, 'c');
+        bench.connection(60, 'y'); // two floods share what the boards leave
+        const QByteArray left = filesOf(bench.path);
+        for (const char *board : {"aaaa", "bbbb", "cccc", "xxxx", "yyyy"})
+            QVERIFY2(left.contains(board), board);
+        QVERIFY(bench.size() <= 8000);
+        QCOMPARE(chunksIn(left).last().bytes.front(), 'y');
+        QVERIFY(left.contains("# dropped to make room: exchange-"));
+        QCOMPARE(bench.dropped.size(), 1);
+        QVERIFY(bench.dropped.first().first().value<Trouble>().what.arguments.value(0).startsWith(bench.path));
+    }
+
+    void oldestConnectionsGoWhenNoneIsAFlood()
+    {
+        Bench bench({.file = 1000, .folder = 4000});
+        for (char board = 'a'; board <= 'j'; ++board)
+            bench.connection(1, board);
+        const QByteArray left = filesOf(bench.path);
+        QVERIFY(!left.contains("aaaa") && left.contains("jjjj") && left.contains("iiii"));
+        QVERIFY(left.contains("# dropped to make room: "));
+        QVERIFY(bench.dropped.isEmpty()); // as it is meant to be
+        QCOMPARE(bench.saved().count("# missing: "), 10 - QDir(bench.path).entryList(QDir::Files).size());
+    }
+
+    void manyShortConnectionsAreBounded()
+    {
+        Bench bench({.files = 3});
+        for (char board = 'a'; board <= 'f'; ++board)
+            bench.connection(1, board);
+        QCOMPARE(QDir(bench.path).entryList(QDir::Files).size(), 3);
+        QVERIFY(filesOf(bench.path).contains("ffff"));
     }
 
     void unwritableFolderIsToldOnce()
@@ -271,6 +328,10 @@ private slots:
         const QList<Exchange> chunks = chunksIn(bench.saved());
         QCOMPARE(bytesOf(chunks, FromPhone), "oldlatelast");
         QCOMPARE(bytesOf(chunks, ToPhone), "i2c -s 0\r");
+        QVERIFY(port.open(phone->path()));
+        port.write("sn\r");
+        bench.log.flush();
+        QCOMPARE(QDir(bench.path).entryList(QDir::Files).size(), 2); // each connection has files of its own
     }
 
     /// A flood of every byte, in chunks of odd sizes: whole on disk, bounded in memory.
