@@ -1,5 +1,6 @@
 #include "wholefile.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
@@ -15,8 +16,29 @@ static QString reasonOf(const QSaveFile &file, const QByteArray &document)
     return isFull ? u"No space left on device"_s : file.errorString();
 }
 
+namespace {
+
+/// A device or a pipe takes the bytes itself; it must not be replaced by a file of its name.
+bool isStream(const QString &path)
+{
+    const QFileInfo target(path);
+    return target.exists() && !target.isFile() && !target.isDir();
+}
+
+Result<Done> writeInto(const QByteArray &document, const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(document) == document.size())
+        return Done{};
+    return Trouble{{u"FILE_NOT_WRITTEN"_s, {path, file.errorString()}}};
+}
+
+} // namespace
+
 Result<Done> writeWhole(const QByteArray &document, const QString &path)
 {
+    if (isStream(path))
+        return writeInto(document, path);
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush();
     if (isWritten && file.commit())
