@@ -1,17 +1,18 @@
+#include "displayguard.h"
 #include "home.h"
 #include "icons.h"
 #include "startup.h"
+#include "stopsignals.h"
 #include "storeinspection.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QSplashScreen>
 
-#include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
-static constexpr int kNoDisplay = 2;
 static constexpr int kNoStore = 4;
 
 static void showSplash(QSplashScreen &splash)
@@ -21,7 +22,6 @@ static void showSplash(QSplashScreen &splash)
     splash.showMessage(u"Tavimo Prelt 2.22"_s, Qt::AlignBottom | Qt::AlignHCenter, currentTheme().text);
 }
 
-/// The toolkit would end the program with a crash.
 static bool hasDisplay()
 {
 #ifdef Q_OS_LINUX
@@ -32,19 +32,19 @@ static bool hasDisplay()
 #endif
 }
 
-static int endWithoutDisplay()
+static std::unique_ptr<QApplication> application(int &argc, char **argv)
 {
-    std::fputs("tavimo-prelt: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); "
-               "prelt does the same in the terminal\n",
-               stderr);
-    return kNoDisplay;
+    const DisplayGuard guard;
+    return std::make_unique<QApplication>(argc, argv);
 }
 
 int main(int argc, char **argv)
 {
     if (!hasDisplay())
-        return endWithoutDisplay();
-    QApplication app(argc, argv);
+        return endWithoutDisplay("neither DISPLAY nor WAYLAND_DISPLAY is set");
+    const std::unique_ptr<QApplication> app = application(argc, argv);
+    const StopSignals stops;
+    QObject::connect(&stops, &StopSignals::asked, app.get(), [] { QCoreApplication::exit(); });
     QApplication::setApplicationName(u"tavimo-prelt"_s);
     QApplication::setApplicationVersion(u"2.22"_s);
     const StartOptions options = startOptions(QApplication::arguments());
@@ -68,7 +68,7 @@ int main(int argc, char **argv)
         return kNoStore;
     }
     Startup startup(options);
-    applyStyleSheet(app);
+    applyStyleSheet(*app);
     startup.begin();
     splash.close();
     return QApplication::exec();

@@ -5,18 +5,30 @@
 #include "connectionbar.h"
 #include "home.h"
 #include "settings.h"
+#include "surveyjournal.h"
 #include "systemopener.h"
 
 #include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 static QString stateFile()
 {
     return stateFolder() + "/window.ini"_L1;
+}
+
+/// The log of the program that runs, for the end that comes from below: the toolkit ends us at once when its display
+/// goes away.
+static ExchangeLog *runningLog = nullptr;
+
+static void flushRunningLog()
+{
+    if (runningLog)
+        runningLog->flush();
 }
 
 Startup::Startup(const StartOptions &options)
@@ -36,6 +48,8 @@ Startup::Startup(const StartOptions &options)
       m_window({m_session, m_log, portsOfThisMachine}),
       m_import(m_session)
 {
+    runningLog = &m_log;
+    std::atexit(&flushRunningLog);
     m_boxes.setParent(&m_window);
     m_log.watch(m_port);
     QObject::connect(&m_window, &Inicial::importWanted, &m_import, [this] { m_import.offer(Occasion::AboutBox); });
@@ -46,6 +60,7 @@ Startup::~Startup()
     QObject::connect(&m_session, &Session::storeFailed, &m_window, [](const Trouble &trouble) {
         std::fputs(qPrintable(u"tavimo-prelt: not kept: "_s + trouble.what.arguments.join(u' ') + u'\n'), stderr);
     });
+    runningLog = nullptr;
     m_store.finish();
     if (!keepWindowState(m_window.state(), stateFile()))
         std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(stateFile())), stderr);
@@ -89,6 +104,7 @@ void Startup::probeInternet()
 void Startup::lookAround()
 {
     keepBackup();
+    SurveyJournal::closeLeftOpen(m_store, &m_window);
     m_import.offer(Occasion::Start);
     probeInternet();
     if (m_options.connects) // a phone is not asked while nobody has time to listen

@@ -314,7 +314,7 @@ std::variant<Arguments, ExitCode> parseArguments(int argc, char **argv)
     app.require_subcommand(1);
     app.failure_message(complaint);
     app.footer("Exit codes: 0 good, 1 fault found, 2 wrong usage, 3 the link failed, 4 the store failed, "
-               "5 incomplete.");
+               "5 incomplete; of several the first of 3, 1, 4, 5.");
     const Commands commands = addCommands(app, arguments);
     try {
         app.parse(argc, argv);

@@ -37,7 +37,7 @@ void ConsoleErrand::takeReply()
     if (m_screen.hasReading() || m_screen.isStray())
         replied();
     else
-        finish(ExitCode::Link);
+        finishUnanswered();
 }
 
 void RecordErrand::refuseInVain()

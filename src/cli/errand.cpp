@@ -22,7 +22,7 @@ void Errand::watchSession()
     connect(
         &session(), &Session::connectionSettled, this,
         [this] {
-            if (!m_finished)
+            if (!isEnding())
                 connectedToPhone();
         },
         Qt::QueuedConnection);
@@ -31,7 +31,7 @@ void Errand::watchSession()
     connect(&session(), &Session::storeFailed, this,
             [this](const Trouble &trouble) { fail(trouble, ExitCode::Store); });
     connect(&session(), &Session::refused, this, [this](const Notice &why) {
-        if (!m_finished)
+        if (!isEnding())
             printError(oneLine({why}, language()));
     });
     connect(&m_timeout, &QTimer::timeout, this, &Errand::timedOut);
@@ -49,7 +49,30 @@ void Errand::watchLog(ExchangeLog &log)
 
 void Errand::linkWasLost()
 {
-    fail({{u"LINK_LOST"_s}}, ExitCode::Link);
+    breakOff({u"LINK_LOST"_s}, ExitCode::Link);
+}
+
+void Errand::cancel()
+{
+    breakOff({u"CANCELLED"_s}, ExitCode::Incomplete);
+}
+
+/// What the screens have to say of it waits in the event loop already when the end is put behind it.
+void Errand::breakOff(const Notice &why, ExitCode code)
+{
+    if (isEnding())
+        return;
+    m_isBrokenOff = true;
+    printError(oneLine({why}, language()));
+    note(code);
+    leavePhone();
+    QMetaObject::invokeMethod(
+        this, [this] { finish(m_noted); }, Qt::QueuedConnection);
+}
+
+void Errand::leavePhone()
+{
+    session().disconnectNow();
 }
 
 void Errand::timedOut()
@@ -86,11 +109,22 @@ void Errand::connectToPhone()
         session().connectOrDisconnect(m_options.port);
 }
 
+void Errand::note(ExitCode code)
+{
+    m_noted = weightier(m_noted, code);
+}
+
 void Errand::finish(ExitCode code)
 {
     if (std::exchange(m_finished, true))
         return;
-    emit finished(code);
+    note(code);
+    emit finished(m_noted);
+}
+
+void Errand::finishUnanswered()
+{
+    finish(m_isBrokenOff ? m_noted : ExitCode::Link);
 }
 
 void Errand::fail(const Trouble &trouble, ExitCode code)

@@ -2,6 +2,8 @@
 
 #include "verdict.h"
 
+#include <array>
+
 /// What `prelt` ends with; scripts rely on the numbers.
 enum class ExitCode
 {
@@ -25,4 +27,15 @@ constexpr ExitCode exitCodeFor(Verdict verdict)
         break;
     }
     return ExitCode::Good;
+}
+
+/// Of two things that happened, the one to end with: what was found counts more than what could not be finished, and
+/// without its line nothing that was found is sure.
+constexpr ExitCode weightier(ExitCode one, ExitCode other)
+{
+    using enum ExitCode;
+    for (const ExitCode code : std::array{Link, Fault, Usage, Store, Incomplete})
+        if (code == one || code == other)
+            return code;
+    return Good;
 }

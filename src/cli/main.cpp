@@ -4,6 +4,7 @@
 #include "readingerrand.h"
 #include "senderrand.h"
 #include "simerrand.h"
+#include "stopsignals.h"
 #include "storecommands.h"
 #include "surveyerrand.h"
 #include "terminal.h"
@@ -24,6 +25,8 @@ static int runErrand(QCoreApplication &app, T &errand)
     QObject::connect(
         &errand, &T::finished, &app, [](ExitCode code) { QCoreApplication::exit(static_cast<int>(code)); },
         Qt::QueuedConnection);
+    const StopSignals stops;
+    QObject::connect(&stops, &StopSignals::asked, &errand, &T::cancel);
     QMetaObject::invokeMethod(&errand, &T::start, Qt::QueuedConnection);
     return QCoreApplication::exec();
 }
@@ -103,7 +106,7 @@ static int unlessUnwritten(int code)
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return code;
     printError(u"prelt: the output could not be written whole. Make room where it goes, or name another file."_s);
-    return static_cast<int>(ExitCode::Usage);
+    return static_cast<int>(weightier(static_cast<ExitCode>(code), ExitCode::Incomplete));
 }
 
 /// A document needs the faces of the system, but no display.

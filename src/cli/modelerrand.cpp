@@ -63,7 +63,7 @@ void ModelErrand::writePdf(ReportDocument report, const QString &path)
     if (isFinished()) // the store failed
         return;
     if (const Result<Done> written = writeReport(report, path); !written)
-        return fail(written.trouble(), ExitCode::Usage);
+        return fail(written.trouble(), ExitCode::Incomplete);
     if (const std::optional<Notice> missing = logoTrouble(report.logoFile))
         printError(oneLine({*missing}, language()));
 }

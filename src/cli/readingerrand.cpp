@@ -43,19 +43,33 @@ void ReadingErrand::printReading()
     if (!session().isModelKnown())
         return refuseWithoutModel();
     if (!m_screen->hasAnswer() && !m_screen->isStray()) // why was told when it was refused
-        return finish(ExitCode::Link);
-    const ReportWish &wish = m_screenOptions.report;
-    if (wish.isWanted() && !panel.report) // a screen that does not fit the model
+        return finishUnanswered();
+    if (m_screenOptions.report.address && !panel.report) // a screen that does not fit the model
         return fail({{u"PRIMEIRO_LEITURA"_s}}, ExitCode::Incomplete);
-    if (!wish.pdf.isEmpty())
-        writePdf(reportDocument(panel, reportHead()), wish.pdf);
+    const QString text = shown(panel);
     if (isFinished())
         return;
-    if (wish.address)
-        return printAddress(panel);
+    printOut(text);
+    note(exitCodeFor(panel.verdict));
+    if (!m_screenOptions.report.pdf.isEmpty())
+        writeReport(panel);
+    finish(ExitCode::Good);
+}
+
+QString ReadingErrand::shown(const Panel &panel)
+{
+    if (m_screenOptions.report.address)
+        return reportAddress(stored(u"report-host"_s), *panel.report, reportHead()) + u'\n';
     const ReadingContext context{session().model(), language(), session().txtComandos(), messages()};
-    printOut(options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted()));
-    finish(exitCodeFor(panel.verdict));
+    return options().json ? document(toJson(panel, context)) : readable(panel, language(), colourWanted());
+}
+
+void ReadingErrand::writeReport(const Panel &panel)
+{
+    if (panel.report)
+        writePdf(reportDocument(panel, reportHead()), m_screenOptions.report.pdf);
+    else
+        fail({{u"PRIMEIRO_LEITURA"_s}}, ExitCode::Incomplete);
 }
 
 ReportHead ReadingErrand::reportHead()
@@ -63,13 +77,4 @@ ReportHead ReadingErrand::reportHead()
     const ReportWish &wish = m_screenOptions.report;
     return {wish.date.value_or(reportDate()), language(), session().model(),
             wish.name ? *wish.name : stored(u"name"_s)};
-}
-
-void ReadingErrand::printAddress(const Panel &panel)
-{
-    const QString address = reportAddress(stored(u"report-host"_s), *panel.report, reportHead());
-    if (isFinished()) // the store failed
-        return;
-    printOut(address + u'\n');
-    finish(exitCodeFor(panel.verdict));
 }

@@ -19,7 +19,9 @@ private:
     void makeScreen();
     void printReading();
     ReportHead reportHead();
-    void printAddress(const Panel &panel);
+    /// The reading as the command line wants it; nothing when the store failed, which ended the errand.
+    QString shown(const Panel &panel);
+    void writeReport(const Panel &panel);
 
     ScreenOptions m_screenOptions;
     std::unique_ptr<Screen> m_screen;

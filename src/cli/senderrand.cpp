@@ -75,7 +75,7 @@ void SendErrand::timedOut()
 void SendErrand::end(ExitCode code)
 {
     if (m_log && m_log->isBroken())
-        fail(m_log->trouble(), ExitCode::Store);
+        fail(m_log->trouble(), ExitCode::Incomplete);
     else
         finish(code);
 }

@@ -11,6 +11,8 @@ class SimErrand : public QObject
 public:
     explicit SimErrand(PhoneProfile profile);
     void start();
+    /// To be stopped is its proper end.
+    void cancel() { emit finished(ExitCode::Good); }
 
 signals:
     void finished(ExitCode code);

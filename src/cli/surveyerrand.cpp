@@ -66,7 +66,8 @@ SurveyErrand::SurveyErrand(CommonOptions options, SurveyOptions surveyOptions)
 
 void SurveyErrand::begin()
 {
-    m_isStarted = true;
+    if (m_surveyOptions.journaling == Journaling::Kept)
+        SurveyJournal::closeLeftOpen(session().store(), this);
     m_survey.open();
     for (const SurveyExtra extra : {SurveyExtra::Syscfg, SurveyExtra::Memory})
         m_survey.chooseExtra(extra, m_surveyOptions.extras.testFlag(extra));
@@ -77,14 +78,18 @@ void SurveyErrand::begin()
     m_survey.read();
 }
 
-/// What was judged before the line died is printed all the same.
+/// Between two questions only the tick finds the line gone.
 void SurveyErrand::linkWasLost()
 {
-    if (!m_isStarted)
-        return Errand::linkWasLost();
-    printError(oneLine({{u"LINK_LOST"_s}}, language()));
     if (m_survey.isRunning())
         m_survey.TimerPasso_Timer();
+    Errand::linkWasLost();
+}
+
+void SurveyErrand::leavePhone()
+{
+    m_survey.btCancelar_Click();
+    Errand::leavePhone();
 }
 
 void SurveyErrand::timedOut()
@@ -116,11 +121,12 @@ void SurveyErrand::printSurvey()
     if (m_showsProgress)
         std::fputs(qUtf8Printable(QString(kClearLine)), stderr);
     if (m_survey.run().end == SurveyEnd::Open) // it never began: why was told when it was refused
-        return finish(ExitCode::Link);
+        return finishUnanswered();
     printOut(options().json ? jsonText() : readableText());
+    note(exitCode());
     if (!m_surveyOptions.pdfFile.isEmpty())
         writePdf(m_survey.report(), m_surveyOptions.pdfFile);
-    finish(exitCode());
+    finish(ExitCode::Good);
 }
 
 QString SurveyErrand::jsonText()

@@ -25,6 +25,7 @@ protected:
     void begin() override;
     void linkWasLost() override;
     void timedOut() override;
+    void leavePhone() override;
 
 private:
     void printProgress();
@@ -36,5 +37,4 @@ private:
     SurveyOptions m_surveyOptions;
     SurveyScreen m_survey;
     bool m_showsProgress;
-    bool m_isStarted = false;
 };

@@ -51,6 +51,7 @@ static void print(FILE *stream, const QString &text)
     QFile file;
     if (file.open(stream, QIODevice::WriteOnly))
         file.write(text.toUtf8());
+    std::fflush(stream); // what is printed stays printed, whatever the next step meets
 }
 
 void printOut(const QString &text)

@@ -160,6 +160,21 @@ Result<Done> setJournalNote(Store &store, const QString &id, const QString &note
     return set ? Result(Done{}) : set.trouble();
 }
 
+Result<QStringList> surveysOf(const Store &store, const QString &outcome)
+{
+    const Result<bool> there = store.hasTable(kLastTable);
+    if (!there || !*there)
+        return there ? Result(QStringList()) : there.trouble();
+    return rowsOf<QString>(store, kSurveysOfOutcome, {{u":outcome"_s, outcome}},
+                           [](const QSqlQuery &row) { return text(row, u"Id"); });
+}
+
+Result<Done> setJournalOutcome(Store &store, const QString &id, const QString &outcome)
+{
+    const auto set = store.run(kSetSurveyOutcome, {{u":id"_s, id}, {u":outcome"_s, outcome}});
+    return set ? Result(Done{}) : set.trouble();
+}
+
 Result<Done> deleteFromJournal(Store &store, const QString &id)
 {
     Result<Transaction> transaction = Transaction::begin(store);

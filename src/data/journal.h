@@ -72,5 +72,9 @@ Result<std::optional<JournalEntry>> journalEntry(const Store &store, const QStri
 
 Result<Done> setJournalNote(Store &store, const QString &id, const QString &note);
 
+/// The ids of the surveys that ended, or did not yet, in this way.
+Result<QStringList> surveysOf(const Store &store, const QString &outcome);
+Result<Done> setJournalOutcome(Store &store, const QString &id, const QString &outcome);
+
 /// Removes a survey with its exchange and findings.
 Result<Done> deleteFromJournal(Store &store, const QString &id);

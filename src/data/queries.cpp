@@ -123,6 +123,8 @@ std::span<const Query *const> queryCatalogue()
         &kKeepSurveyFinding,
         &kSetBoardOfFindings,
         &kSetSurveyNote,
+        &kSurveysOfOutcome,
+        &kSetSurveyOutcome,
         &kDeleteSurvey,
         &kDeleteSurveyReplies,
         &kDeleteSurveyFindings,

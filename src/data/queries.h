@@ -265,6 +265,8 @@ inline constexpr Query kSetBoardOfFindings{"SetBoardOfFindings",
 inline constexpr Query kSetSurveyNote{"SetSurveyNote",
     "Update Surveys set Note = :note, NoteUuid = case when :note = '' then '' when NoteUuid = '' then :uuid "
     "else NoteUuid end Where Id = :id"};
+inline constexpr Query kSurveysOfOutcome{"SurveysOfOutcome", "Select Id from Surveys Where Outcome = :outcome"};
+inline constexpr Query kSetSurveyOutcome{"SetSurveyOutcome", "Update Surveys set Outcome = :outcome Where Id = :id"};
 inline constexpr Query kDeleteSurvey{"DeleteSurvey", "Delete from Surveys Where Id = :id"};
 inline constexpr Query kDeleteSurveyReplies{"DeleteSurveyReplies", "Delete from SurveyReplies Where Survey = :id"};
 inline constexpr Query kDeleteSurveyFindings{"DeleteSurveyFindings", "Delete from SurveyFindings Where Survey = :id"};

@@ -111,6 +111,8 @@ public:
     void connectOrDisconnect(const QString &port);
     /// Connects unless something is connected already.
     void reconnect(const QString &port, Asked asked);
+    /// Leaves the phone whatever is in flight: its screen gets what came.
+    void disconnectNow();
     void chooseModel(const QString &model);
     void chooseLanguage(Language chosen);
     void chooseSpeed(const QString &chosen);
@@ -184,7 +186,6 @@ private:
     void offerHelpVideo();
     void tellUnconnected(const Trouble &trouble);
     void openPort(const PortAddress &address);
-    void disconnectNow();
     void showDisconnected();
     void enter(QChar status, const QString &st1);
     bool isInFlight() const;

@@ -21,7 +21,38 @@ QString timeText(const QDateTime &time)
     return time.isValid() ? time.toUTC().toString(Qt::ISODate) : QString();
 }
 
+/// The system frees it when its owner ends, however it ends.
+std::unique_ptr<QLockFile> markOf(const QString &store, const QString &survey)
+{
+    auto mark = std::make_unique<QLockFile>(store + u'-' + survey + ".running"_L1);
+    mark->setStaleLockTime(0);
+    return mark;
+}
+
+Result<Done> closeAll(Store &store, const QStringList &surveys)
+{
+    for (const QString &survey : surveys)
+        if (const auto closed = setJournalOutcome(store, survey, word(SurveyEnd::Cancelled)); !closed)
+            return closed;
+    return Done{};
+}
+
 } // namespace
+
+void SurveyJournal::closeLeftOpen(StoreQueue &store, QObject *context)
+{
+    const auto close = [&store, context](const Result<QStringList> &open) {
+        QStringList left = open ? *open : QStringList();
+        left.removeIf([&store](const QString &survey) { return !markOf(store.path(), survey)->tryLock(); });
+        if (!left.isEmpty()) // a store that takes nothing keeps them open until it does
+            store.run<Done>(
+                Store::Access::Write, [left](Store &writable) { return closeAll(writable, left); }, context,
+                [](const Result<Done> &) {});
+    };
+    store.run<QStringList>(
+        Store::Access::Read, [](Store &readable) { return surveysOf(readable, word(SurveyEnd::Open)); }, context,
+        close);
+}
 
 JournalFinding toJournal(const Finding &finding)
 {
@@ -69,6 +100,8 @@ void SurveyJournal::begin(const SurveyRun &run, const QString &name, const QStri
     m_hasFailed = false;
     m_isWritten = false;
     m_isKnown = false;
+    m_running = markOf(m_store.path(), run.id);
+    m_running->tryLock();
     write({m_survey});
 }
 
@@ -96,6 +129,8 @@ void SurveyJournal::keep(const SurveyRun &run)
         m_unwritten = entry;
     else
         write(entry);
+    if (run.end != SurveyEnd::Open)
+        m_running.reset();
 }
 
 void SurveyJournal::write(const JournalEntry &entry)

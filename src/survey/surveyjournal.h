@@ -4,7 +4,10 @@
 #include "storequeue.h"
 #include "surveyrun.h"
 
+#include <QLockFile>
 #include <QObject>
+
+#include <memory>
 
 /// Takes a survey down in the journal while it goes, each answer in a transaction of its own. What could not be written
 /// is told, and tried once more at the end: a survey never waits for its journal.
@@ -14,6 +17,9 @@ class SurveyJournal : public QObject
 
 public:
     explicit SurveyJournal(StoreQueue &store, QObject *parent = nullptr) : QObject(parent), m_store(store) {}
+
+    /// Closes as cancelled what a program that was killed left open; surveys that are running elsewhere go on.
+    static void closeLeftOpen(StoreQueue &store, QObject *context);
 
     /// A survey begins; the name and the note go with it.
     void begin(const SurveyRun &run, const QString &name, const QString &note);
@@ -29,6 +35,7 @@ private:
     void write(const JournalEntry &entry);
 
     StoreQueue &m_store;
+    std::unique_ptr<QLockFile> m_running; ///< held beside the store as long as the survey is open
     JournalSurvey m_survey;
     qsizetype m_answers = 0;       ///< so many of the run's were handed over
     QList<JournalFinding> m_known; ///< as they were handed over last

@@ -32,6 +32,14 @@ SurveyScreen::SurveyScreen(Session &session, QObject *parent)
     });
 }
 
+/// A survey ends with its screen. The journal is told; whoever showed the screen is gone.
+SurveyScreen::~SurveyScreen()
+{
+    const QSignalBlocker silent(this);
+    if (m_timerPasso.isActive())
+        end(SurveyEnd::Cancelled);
+}
+
 void SurveyScreen::open()
 {
     withStore<QString>(
@@ -170,7 +178,7 @@ void SurveyScreen::release(Release why, const Delivery &partial)
         return stopRunning();
     if (std::exchange(m_isAsked, false) && !partial.reply.isEmpty())
         takeReply(partial);
-    end(SurveyEnd::LinkLost);
+    end(why == Release::Disconnected ? SurveyEnd::Cancelled : SurveyEnd::LinkLost);
 }
 
 void SurveyScreen::btCancelar_Click()

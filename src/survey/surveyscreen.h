@@ -29,6 +29,7 @@ public:
     };
 
     explicit SurveyScreen(Session &session, QObject *parent = nullptr);
+    ~SurveyScreen() override;
 
     void open() override;
     /// Starts a survey.

@@ -306,6 +306,10 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      {u"Conexão perdida: a porta desapareceu. Verifique o cabo da Box e conecte novamente.",
       u"Link lost: the port is gone. Check the cable of the Box and connect again.",
       u"Conexión perdida: el puerto desapareció. Verifique el cable de la Box y conecte de nuevo."}},
+    {u"CANCELLED",
+     Information,
+     {u"Interrompido: vale o que foi lido até aqui.", u"Cancelled: what was read until now counts.",
+      u"Interrumpido: vale lo que se leyó hasta ahora."}},
     // Exchange log: %1 the file, %2 the reason as the system words it
     {u"LOG_NOT_WRITTEN",
      Information,

@@ -1,0 +1,5 @@
+#include "stopsignals.h"
+
+StopSignals::StopSignals(QObject *parent) : QObject(parent) {}
+
+StopSignals::~StopSignals() = default;
