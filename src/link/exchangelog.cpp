@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -63,8 +64,11 @@ void ExchangeLog::watch(Port &port)
     connect(&port, &Port::sent, this, [this](const QByteArray &bytes) { take(ToPhone, bytes); });
 }
 
+/// Where the phone said nothing, as while it is looked for again and again, there is no exchange to tell apart.
 void ExchangeLog::beginConnection()
 {
+    if (!std::exchange(m_hasPhoneSpoken, false))
+        return;
     flush();
     m_file.beginConnection();
 }
@@ -78,6 +82,7 @@ void ExchangeLog::add(const Exchange &exchange)
 {
     if (exchange.bytes.isEmpty())
         return;
+    m_hasPhoneSpoken = m_hasPhoneSpoken || exchange.direction == Exchange::Direction::FromPhone;
     m_kept.push_back(exchange);
     m_kept.back().bytes = QByteArray(exchange.bytes.constData(), exchange.bytes.size()); // without spare room
     m_keptCost += costOf(exchange);

@@ -71,6 +71,7 @@ private:
     QTimer m_timer;
     qint64 m_written = 0; // number behind the last chunk that is on disk
     qsizetype m_unwrittenBytes = 0;
+    bool m_hasPhoneSpoken = false; ///< on this connection
     bool m_failing = false;
     bool m_told = false;
     bool m_toldDropped = false;

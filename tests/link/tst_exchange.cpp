@@ -234,6 +234,12 @@ private slots:
             bench.connection(1, board);
         QCOMPARE(QDir(bench.path).entryList(QDir::Files).size(), 3);
         QVERIFY(filesOf(bench.path).contains("ffff"));
+        for (int tries = 0; tries < 3; ++tries) { // a phone that is looked for and does not answer
+            bench.log.beginConnection();
+            bench.log.add({++bench.time, ToPhone, "syscfg\r"});
+            bench.log.flush();
+        }
+        QCOMPARE(chunksIn(filesOf(bench.path)).size(), 2 + 3); // in one file, so that the boards keep theirs
     }
 
     void unwritableFolderIsToldOnce()
