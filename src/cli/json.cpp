@@ -1,5 +1,7 @@
 #include "json.h"
 
+#include "visibletext.h"
+
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
@@ -88,5 +90,5 @@ QJsonObject toJson(const Panel &panel, const ReadingContext &context)
 
 QString document(const QJsonObject &object)
 {
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
+    return visibleJson(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact))) + u'\n';
 }

@@ -1,5 +1,7 @@
 #include "csv.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -68,15 +70,25 @@ private:
     QStringView m_rest;
 };
 
-QString guarded(const QString &value)
+bool isNumber(const QString &text)
 {
-    static constexpr QStringView kActing = u"=+-@\uff1d\uff0b\uff0d\uff20\t\r\n'";
-    return !value.isEmpty() && kActing.contains(value.front()) ? u'\'' + value : value;
+    static const QRegularExpression kNumber(uR"(^[+-]?\d+([.,]\d+)?( ?(%|V|mV|mA|A|C|Ohm))?\z)"_s);
+    return kNumber.match(text).hasMatch();
 }
 
-QString written(const QString &value)
+bool isGuarded(const QString &value, CsvGuard guard)
 {
-    QString cell = guarded(value);
+    static constexpr QStringView kActing = u"=+-@\uff1d\uff0b\uff0d\uff20\t\r\n";
+    if (value.isEmpty())
+        return false;
+    if (guard == CsvGuard::Exact)
+        return kActing.contains(value.front()) || value.front() == u'\'';
+    return kActing.contains(value.front()) && !isNumber(value);
+}
+
+QString written(const QString &value, CsvGuard guard)
+{
+    QString cell = isGuarded(value, guard) ? u'\'' + value : value;
     const bool plain =
         std::ranges::none_of(cell, [](QChar letter) { return QStringView(u",;\t\r\n\x22").contains(letter); });
     return plain ? cell : u'"' + cell.replace(u'"', R"("")"_L1) + u'"';
@@ -96,13 +108,13 @@ std::optional<QList<QStringList>> csvRecords(QStringView text)
     return records;
 }
 
-QString csvText(const QList<QStringList> &records)
+QString csvText(const QList<QStringList> &records, CsvGuard guard)
 {
     QString text;
     for (const QStringList &record : records) {
         QStringList cells;
         for (const QString &value : record)
-            cells += written(value);
+            cells += written(value, guard);
         text += cells.join(u',') + "\r\n"_L1;
     }
     return text;

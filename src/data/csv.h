@@ -10,11 +10,17 @@
 /// closed, or when a closed one is followed by something else than a comma or a line end.
 std::optional<QList<QStringList>> csvRecords(QStringView text);
 
-/// The text of records, which `csvRecords` reads back: lines end CR LF, cells stand in quotes where they need to. A
-/// cell that a spreadsheet could run (it begins with "=", "+", "-", "@", their wide forms, a tab or a line end), or
-/// that begins with an apostrophe, gets an apostrophe in front. So the exact value of a cell that begins with an
-/// apostrophe is what follows it; see `unguarded`.
-QString csvText(const QList<QStringList> &records);
+/// Which cells get an apostrophe in front, so that no spreadsheet runs them.
+enum class CsvGuard
+{
+    Exact,   ///< and those that begin with one: what follows the apostrophe is the value, see `unguarded`
+    Readable ///< not numbers with their sign and unit, which a person wants to count with
+};
+
+/// The text of records, which `csvRecords` reads back: lines end CR LF, cells stand in quotes where they need to, also
+/// for a spreadsheet that parts them at ";". A cell that a spreadsheet could run (it begins with "=", "+", "-", "@",
+/// their wide forms, a tab or a line end) is guarded.
+QString csvText(const QList<QStringList> &records, CsvGuard guard = CsvGuard::Exact);
 
 /// The value of a cell of `csvText`.
 QString unguarded(const QString &cell);

@@ -84,3 +84,21 @@ QString visibleText(QByteArrayView bytes)
 {
     return visibleText(QStringView(QString::fromLatin1(bytes)));
 }
+
+QString visibleJson(QStringView json)
+{
+    QString shown;
+    shown.reserve(json.size());
+    for (qsizetype at = 0; at < json.size();) {
+        const char32_t c = characterAt(json, at);
+        const qsizetype units = QChar::requiresSurrogates(c) ? 2 : 1;
+        for (const QChar unit : json.sliced(at, units)) {
+            if (isPlain(c) || !isUnseen(c))
+                shown += unit;
+            else
+                shown += u"\\u%1"_s.arg(unit.unicode(), 4, 16, QChar(u'0'));
+        }
+        at += units;
+    }
+    return shown;
+}

@@ -10,3 +10,7 @@ QString visibleText(QStringView text);
 
 /// The same for bytes of the phone, each one character.
 QString visibleText(QByteArrayView bytes);
+
+/// The same for the text of a JSON document: unseen characters are escaped (\u009B), so that whoever reads the document
+/// gets them as they were.
+QString visibleJson(QStringView json);

@@ -1,9 +1,9 @@
 #include "gridtext.h"
 
+#include "csv.h"
 #include "visibletext.h"
 
 #include <QAbstractItemModel>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -38,35 +38,7 @@ QList<QStringList> tableText(const QAbstractItemModel &model)
     return lines;
 }
 
-static bool isNumber(const QString &text)
-{
-    static const QRegularExpression kNumber(uR"(^[+-]?\d+([.,]\d+)?( ?(%|V|mV|mA|A|C|Ohm))?\z)"_s);
-    return kNumber.match(text).hasMatch();
-}
-
-static bool isFormula(const QString &text)
-{
-    static constexpr auto kStarts = QStringView(u"=+-@\uff1d\uff0b\uff0d\uff20\t\r\n");
-    return !text.isEmpty() && kStarts.contains(text.front()) && !isNumber(text);
-}
-
-QString csvCell(const QString &text)
-{
-    static const QRegularExpression kSpecial(u"[\",\r\n]"_s);
-    QString cell = isFormula(text) ? u'\'' + text : text;
-    if (!cell.contains(kSpecial))
-        return cell;
-    return u'"' + cell.replace(u'"', u"\"\""_s) + u'"';
-}
-
 QByteArray csvFile(const QList<QStringList> &lines)
 {
-    QString file(QChar::ByteOrderMark);
-    for (const QStringList &line : lines) {
-        QStringList cells;
-        for (const QString &text : line)
-            cells.append(csvCell(text));
-        file += cells.join(u',') + "\r\n"_L1;
-    }
-    return file.toUtf8();
+    return QString(QChar::ByteOrderMark + csvText(lines, CsvGuard::Readable)).toUtf8();
 }

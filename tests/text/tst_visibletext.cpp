@@ -1,6 +1,8 @@
 #include "columns.h"
 #include "visibletext.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +57,15 @@ private slots:
     {
         QFETCH(QString, text);
         QTEST(visibleText(QStringView(text)), "shown");
+    }
+
+    void jsonStaysTheSameToItsReader()
+    {
+        const QString sent = u"\x1B\x7F\x9B\xAD\u202E\u2028"_s + QString::fromUcs4(U"\U000E0041") + u" é\\\"\n😀"_s;
+        const auto document = QJsonDocument(QJsonArray{sent});
+        const QString shown = visibleJson(QString::fromUtf8(document.toJson(QJsonDocument::Compact)));
+        QCOMPARE(shown, u"[\"\\u001b\\u007f\\u009b\\u00ad\\u202e\\u2028\\udb40\\udc41 é\\\\\\\"\\n😀\"]"_s);
+        QCOMPARE(QJsonDocument::fromJson(shown.toUtf8()), document);
     }
 };
 
