@@ -48,7 +48,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"tavimo-prelt"_s);
     QApplication::setApplicationVersion(u"2.22"_s);
     const StartOptions options = startOptions(QApplication::arguments());
-    applyTheme(options.theme);
+    applyTheme(options.theme.value_or(windowStateFrom(windowStateFile()).theme));
     QSplashScreen splash(programIcon().pixmap(192));
     showSplash(splash);
 

@@ -31,10 +31,10 @@ static QString screenName(const QString &typed)
     complain(u"no screen \"%1\"; the screens are: %2"_s.arg(typed, names.join(", "_L1)));
 }
 
-static ThemeChoice themeChoice(const QString &typed)
+static std::optional<ThemeChoice> themeChoice(const QString &typed)
 {
     if (typed.isEmpty())
-        return ThemeChoice::Desktop;
+        return {};
     if (typed == "light"_L1)
         return ThemeChoice::Light;
     if (typed == "dark"_L1)
@@ -54,7 +54,7 @@ StartOptions startOptions(const QStringList &arguments)
                        {u"screen"_s, u"open this screen"_s, u"NAME"_s},
                        {u"read"_s, u"start the screen's reading once the phone is connected"_s},
                        {u"log"_s, u"open the exchange log"_s},
-                       {u"theme"_s, u"light or dark (else as the desktop)"_s, u"THEME"_s}});
+                       {u"theme"_s, u"light or dark (else as last chosen)"_s, u"THEME"_s}});
     if (!parser.parse(arguments))
         complain(parser.errorText());
     if (parser.isSet(u"help"_s))

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// What the window is told at its start.
 struct StartOptions
 {
@@ -14,7 +16,7 @@ struct StartOptions
     QString screen; ///< a form's name; empty: none
     bool reads = false;
     bool showsLog = false;
-    ThemeChoice theme = ThemeChoice::Desktop;
+    std::optional<ThemeChoice> theme; ///< for this start only; else as it was chosen in the window
 };
 
 /// The options of the command line. Ends the program after help, or after a complaint with code 2.

@@ -4,11 +4,11 @@
 #include "catalogue.h"
 #include "connectionbar.h"
 #include "home.h"
+#include "plaintext.h"
 #include "settings.h"
 #include "surveyjournal.h"
 #include "systemopener.h"
 
-#include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-static QString stateFile()
+QString windowStateFile()
 {
     return stateFolder() + "/window.ini"_L1;
 }
@@ -62,15 +62,19 @@ Startup::~Startup()
     });
     runningLog = nullptr;
     m_store.finish();
-    if (!keepWindowState(m_window.state(), stateFile()))
-        std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(stateFile())), stderr);
+    if (!keepWindowState(m_window.state(), windowStateFile()))
+        std::fputs(qPrintable(u"tavimo-prelt: the window's layout was not kept in %1\n"_s.arg(windowStateFile())),
+                   stderr);
 }
 
 /// Kept as it changes, not only at the end: a bench's computer is switched off without asking.
 void Startup::keepLayout()
 {
-    const auto keep = [this] { keepWindowState(m_window.state(), stateFile()); }; // the end tells when it cannot be
+    const auto keep = [this] {
+        keepWindowState(m_window.state(), windowStateFile());
+    }; // the end tells when it cannot be
     QObject::connect(&m_window, &Inicial::screensChanged, &m_window, keep);
+    QObject::connect(&m_window, &Inicial::themeChosen, &m_window, keep);
     QObject::connect(&m_session, &Session::portOpened, &m_window, keep);
 }
 
@@ -114,7 +118,7 @@ void Startup::lookAround()
 void Startup::begin()
 {
     m_session.load();
-    m_window.restore(windowStateFrom(stateFile()));
+    m_window.restore(windowStateFrom(windowStateFile()));
     if (!m_options.port.isEmpty())
         m_window.connectionBar().setPort(m_options.port);
     m_window.askForTerms();
@@ -130,8 +134,8 @@ void Startup::begin()
 
 static void showCritical(const QString &title, const QStringList &lines)
 {
-    auto *box = new QMessageBox(QMessageBox::Critical, title, lines.join(u'\n'));
-    box->setTextFormat(Qt::PlainText);
+    QMessageBox *box = plainBox(title, lines.join(u'\n'), QMessageBox::NoButton);
+    box->setIcon(QMessageBox::Critical);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open(); // the program ends with its last window
 }

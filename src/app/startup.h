@@ -38,6 +38,9 @@ private:
     Reachability m_reachability;
 };
 
+/// Where the window's layout is kept.
+QString windowStateFile();
+
 /// Says in three languages that the reference store is missing.
 void showStoreMissing(const QString &path);
 

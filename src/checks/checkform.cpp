@@ -2,6 +2,8 @@
 
 #include "communication.h"
 #include "marklabel.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "theme.h"
 
 #include <QLabel>
@@ -29,7 +31,7 @@ QPushButton *CheckForm::testButton(const QString &name)
     auto *button = named(new QPushButton, name);
     button->setMinimumHeight(Spacing::target);
     const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(kKeys[m_buttons++].unicode()));
-    button->setToolTip(keys.toString(QKeySequence::NativeText));
+    button->setToolTip(plainToolTip(keys.toString(QKeySequence::NativeText)));
     connect(new QShortcut(keys, this), &QShortcut::activated, button, [button] {
         button->setFocus(Qt::ShortcutFocusReason); // so that Tab goes on from here
         button->click();
@@ -66,7 +68,7 @@ QWidget *CheckForm::column(const QList<QWidget *> &controls)
 
 QLabel *CheckForm::largeLabel(const QString &name)
 {
-    auto *label = named(new QLabel, name);
+    auto *label = named(new PlainLabel, name);
     label->setFont(textFont(TextSize::Large));
     label->setWordWrap(true);
     return label;
@@ -81,7 +83,7 @@ QWidget *CheckForm::result(const QList<QWidget *> &above)
     row->addWidget(markNamed(u"OK"_s, Verdict::Pass));
     row->addWidget(markNamed(u"NO"_s, Verdict::Fail));
     row->addWidget(largeLabel(u"lbStatus"_s), 1);
-    row->addWidget(named(new QLabel, u"lbAguarde"_s));
+    row->addWidget(named(new PlainLabel, u"lbAguarde"_s));
     return frame;
 }
 
@@ -121,7 +123,7 @@ static QWidget *headed(const QString &name, QLabel *heading, QPlainTextEdit *box
 
 QWidget *CheckForm::replyBox()
 {
-    m_lbDados = named(new QLabel, u"lbDispConectado"_s);
+    m_lbDados = named(new PlainLabel, u"lbDispConectado"_s);
     m_lbDados->setWordWrap(true);
     m_txtDados = phoneText(u"txtDados"_s);
     connect(&m_check, &CheckScreen::replyGrew, m_txtDados, [this](const QString &text) { append(*m_txtDados, text); });
@@ -130,10 +132,10 @@ QWidget *CheckForm::replyBox()
 
 QWidget *CheckForm::comparator()
 {
-    m_ldDispComparador = named(new QLabel, u"ldDispComparador"_s);
+    m_ldDispComparador = named(new PlainLabel, u"ldDispComparador"_s);
     m_txtComparador = phoneText(u"txtComparador"_s);
     QWidget *const frame = headed(u"FrameComparador"_s, m_ldDispComparador, m_txtComparador);
-    frame->layout()->addWidget(named(new QLabel, u"lbIntegridade"_s));
+    frame->layout()->addWidget(named(new PlainLabel, u"lbIntegridade"_s));
     return frame;
 }
 

@@ -4,6 +4,7 @@
 
 #include "chipreading.h"
 #include "displaysscreen.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QGridLayout>
@@ -35,7 +36,7 @@ QWidget *Displays::body()
     auto *right = new QVBoxLayout;
     auto *result = controlRow();
     result->addWidget(m_lbResolucao = largeLabel(u"lbResolucao"_s), 1);
-    result->addWidget(named(new QLabel, u"lbAguarde"_s));
+    result->addWidget(named(new PlainLabel, u"lbAguarde"_s));
     right->addLayout(result);
     right->addWidget(replyBox(), 1);
     auto *frame = new QWidget;
@@ -83,7 +84,7 @@ QWidget *Displays::light()
 /// Dragging sends on release, keys send at once.
 QWidget *Displays::level()
 {
-    m_lbNivel = named(new QLabel, u"lbNivel"_s);
+    m_lbNivel = named(new PlainLabel, u"lbNivel"_s);
     m_slider1 = named(new QSlider(Qt::Horizontal), u"Slider1"_s);
     m_slider1->setRange(kLowestLevel, kHighestLevel);
     m_slider1->setTickPosition(QSlider::TicksBelow);
@@ -97,7 +98,7 @@ QWidget *Displays::level()
     grid->addWidget(m_slider1, 1, 0, 1, static_cast<int>(kLevels.size()));
     static constexpr std::array kSides = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
     for (std::size_t i = 0; i < kLevels.size(); ++i)
-        grid->addWidget(new QLabel(QString(kLevels[i])), 2, static_cast<int>(i), kSides[i]);
+        grid->addWidget(new PlainLabel(QString(kLevels[i])), 2, static_cast<int>(i), kSides[i]);
     return frame;
 }
 

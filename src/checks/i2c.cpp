@@ -6,6 +6,7 @@
 #include "linelist.h"
 #include "marklabel.h"
 #include "panelgrid.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QGroupBox>
@@ -68,13 +69,13 @@ QWidget *I2C::goodResult()
     auto *mark = markNamed(u"MarcaOK"_s, Verdict::Pass);
     mark->show();
     row->addWidget(mark);
-    row->addWidget(m_lbOK = new QLabel, 1);
+    row->addWidget(m_lbOK = new PlainLabel, 1);
     return frame;
 }
 
 QWidget *I2C::busResult()
 {
-    auto *lines = named(new QLabel, u"lbResultado"_s);
+    auto *lines = named(new PlainLabel, u"lbResultado"_s);
     lines->setWordWrap(true);
     auto *outcome = controlRow();
     for (QWidget *mark : {markNamed(u"OK"_s, Verdict::Pass), markNamed(u"NO"_s, Verdict::Fail)})
@@ -92,15 +93,15 @@ QWidget *I2C::runResult()
     auto *frame = named(new QWidget, u"FrameAutoI2C"_s);
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_lbAuto = new QLabel);
+    layout->addWidget(m_lbAuto = new PlainLabel);
     layout->addWidget(m_listView = named(new LineList, u"ListView"_s), 1);
     return frame;
 }
 
 QWidget *I2C::results()
 {
-    m_lbfalhas = named(new QLabel, u"lbfalhas"_s);
-    m_txtDadosI2C = named(new QLabel, u"txtDadosI2C"_s);
+    m_lbfalhas = named(new PlainLabel, u"lbfalhas"_s);
+    m_txtDadosI2C = named(new PlainLabel, u"txtDadosI2C"_s);
     m_txtDadosI2C->setWordWrap(true);
     m_txtDadosI2C->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *frame = new QWidget;

@@ -3,6 +3,7 @@
 #include "chipreading.h"
 #include "icons.h"
 #include "outrosscreen.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QHBoxLayout>
@@ -20,10 +21,10 @@ Outros::Outros(Session &session, QWidget *parent)
         m_btBl[i] = testButton(element(u"btBl", kIndices[i]));
     m_btBateria = testButton(u"btBateria"_s);
     m_btPanicFull = named(new QPushButton, u"btPanicFull"_s);
-    m_lbIC = named(new QLabel, u"lbIC"_s);
+    m_lbIC = named(new PlainLabel, u"lbIC"_s);
     layOut({.note = u"lbStatus2"_s,
             .buttons = {comparatorButton(), m_btPanicFull},
-            .choices = {named(new QLabel, u"lbDispositivo"_s), nullptr},
+            .choices = {named(new PlainLabel, u"lbDispositivo"_s), nullptr},
             .body = body()});
     connectControls();
 }

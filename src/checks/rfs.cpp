@@ -3,6 +3,7 @@
 #include "chipreading.h"
 #include "icons.h"
 #include "marklabel.h"
+#include "plainlabel.h"
 #include "rfsscreen.h"
 #include "theme.h"
 
@@ -54,7 +55,7 @@ QWidget *RFs::radios()
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(Spacing::control);
     for (int index = 0; index < kRadios; ++index) {
-        auto *field = named(new QLabel, radio(index).field);
+        auto *field = named(new PlainLabel, radio(index).field);
         field->setAlignment(Qt::AlignCenter);
         field->setMinimumSize(kFieldWidth, Spacing::target);
         field->setFrameShape(QFrame::StyledPanel);
@@ -73,7 +74,7 @@ QWidget *RFs::radios()
     row->addWidget(markNamed(u"OK"_s, Verdict::Pass));
     row->addWidget(markNamed(u"NO"_s, Verdict::Fail));
     row->addWidget(largeLabel(u"lbStatus2"_s), 1);
-    row->addWidget(named(new QLabel, u"lbAguarde"_s));
+    row->addWidget(named(new PlainLabel, u"lbAguarde"_s));
     grid->addWidget(outcome, 0, static_cast<int>(kActions.size()) + 1, kRadios, 1);
     grid->setColumnStretch(static_cast<int>(kActions.size()) + 1, 1);
     return frame;

@@ -1,6 +1,7 @@
 #include "rfs_esq.h"
 
 #include "panelgrid.h"
+#include "plainlabel.h"
 #include "readingform.h"
 #include "rfs_esqscreen.h"
 #include "theme.h"
@@ -32,7 +33,7 @@ RFs_Esq::RFs_Esq(Session &session, QWidget *parent)
 
 void RFs_Esq::layOut()
 {
-    m_lbTitulo = named(new QLabel, u"lbTitulo"_s);
+    m_lbTitulo = named(new PlainLabel, u"lbTitulo"_s);
     m_comboAparelhos = named(new QComboBox, u"ComboAparelhos"_s);
     m_botao1 = named(new QPushButton(u"INT."_s), u"Botao1"_s);
     m_botao2 = named(new QPushButton(u"QUAL."_s), u"Botao2"_s);

@@ -3,6 +3,7 @@
 #include "bateriascreen.h"
 #include "chipreading.h"
 #include "gauge.h"
+#include "plainlabel.h"
 #include "theme.h"
 #include "valuefield.h"
 
@@ -45,7 +46,7 @@ QWidget *Bateria::facts()
     grid->setVerticalSpacing(Spacing::control);
     for (int i = 0; i < kBatteryFacts; ++i) {
         const auto place = static_cast<std::size_t>(i);
-        m_captions[place] = named(new QLabel, element(u"Info_Descricao", i));
+        m_captions[place] = named(new PlainLabel, element(u"Info_Descricao", i));
         m_values[place] = named(new ValueField(kLongestFact), element(u"Info", i));
         grid->addWidget(m_captions[place], i, 0);
         grid->addWidget(m_values[place], i, 1);

@@ -3,6 +3,7 @@
 #include "icons.h"
 #include "linelist.h"
 #include "marklabel.h"
+#include "plainlabel.h"
 #include "reportbuttons.h"
 #include "theme.h"
 #include "valuefield.h"
@@ -41,18 +42,18 @@ ChipForm::ChipForm(std::unique_ptr<ChipScreen> screen, const ChipLook &look, con
 QList<QWidget *> ChipForm::core(const ChipLook &look)
 {
     QList<QWidget *> widgets;
-    auto *chipName = named(new QLabel, u"lb"_s);
-    m_lbUC = named(new QLabel, u"lbUC"_s);
+    auto *chipName = named(new PlainLabel, u"lb"_s);
+    m_lbUC = named(new PlainLabel, u"lbUC"_s);
     m_lbUC->setFont(textFont(TextSize::Large));
     widgets << chipName << m_lbUC;
     if (!look.status.isEmpty())
-        widgets.append(named(new QLabel, look.status));
+        widgets.append(named(new PlainLabel, look.status));
     if (look.mark >= 0) {
         widgets.append(markNamed(element(u"OK", look.mark), Verdict::Pass));
         widgets.append(markNamed(element(u"NO", look.mark), Verdict::Fail));
     }
     if (!look.temp.isEmpty()) {
-        m_lbTemp = new QLabel;
+        m_lbTemp = new PlainLabel;
         m_lbTemp->setFont(textFont(TextSize::Small));
         widgets << m_lbTemp << (m_temp = named(new ValueField(kTemperature), look.temp));
     }
@@ -93,8 +94,8 @@ QWidget *ChipForm::logFrame()
     auto *grid = new QGridLayout(frame);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(Spacing::unit);
-    grid->addWidget(m_lbReply = named(new QLabel, u"lblLabel(0)"_s), 0, 0);
-    grid->addWidget(m_lbRecorded = named(new QLabel, u"lblLabel(1)"_s), 0, 1);
+    grid->addWidget(m_lbReply = named(new PlainLabel, u"lblLabel(0)"_s), 0, 0);
+    grid->addWidget(m_lbRecorded = named(new PlainLabel, u"lblLabel(1)"_s), 0, 1);
     grid->addWidget(m_reply = named(new LineList, u"txtLog"_s), 1, 0);
     grid->addWidget(m_recorded = named(new LineList, u"txtComparador"_s), 1, 1);
     for (const int column : {0, 1})

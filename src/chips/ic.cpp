@@ -5,6 +5,7 @@
 #include "icons.h"
 #include "icscreen.h"
 #include "marklabel.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QHBoxLayout>
@@ -30,7 +31,7 @@ QWidget *IC::selectors()
 {
     auto *frame = named(new QWidget, u"Frame1"_s);
     auto *row = controlRow(frame);
-    row->addWidget(m_label1 = named(new QLabel, u"Label1"_s));
+    row->addWidget(m_label1 = named(new PlainLabel, u"Label1"_s));
     for (int selector = 1; selector <= 2; ++selector) {
         const auto place = static_cast<std::size_t>(selector - 1);
         m_selectors[place] = named(new QRadioButton, element(u"OpSelecao", selector));
@@ -41,13 +42,13 @@ QWidget *IC::selectors()
 
 QWidget *IC::result()
 {
-    m_lbIC = named(new QLabel, u"lbIC"_s);
+    m_lbIC = named(new PlainLabel, u"lbIC"_s);
     m_lbIC->setFont(textFont(TextSize::Large));
-    m_lbStatus = named(new QLabel, u"lbStatus"_s);
+    m_lbStatus = named(new PlainLabel, u"lbStatus"_s);
     m_lbStatus->setFont(textFont(TextSize::Large));
-    m_lbDispositivo = named(new QLabel, u"lbDispositivo"_s);
+    m_lbDispositivo = named(new PlainLabel, u"lbDispositivo"_s);
     return named(new ChipDrawing({}, {m_lbDispositivo, m_lbIC, m_lbStatus, markNamed(u"OK"_s, Verdict::Pass),
-                                      markNamed(u"NO"_s, Verdict::Fail), named(new QLabel, u"lbAguarde"_s)}),
+                                      markNamed(u"NO"_s, Verdict::Fail), named(new PlainLabel, u"lbAguarde"_s)}),
                  u"Frame2"_s);
 }
 

@@ -4,6 +4,7 @@
 #include "commandline.h"
 #include "icons.h"
 #include "masterscreen.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "theme.h"
 
@@ -169,12 +170,12 @@ void CommandBar::Traducao_Form()
     m_txtComandos->setAccessibleName(text(u"Comandos"));
     m_txtComandos->lineEdit()->setPlaceholderText(text(u"Digite ou seleciona na lista suspença o comando desejado"));
     m_btSend->setText(text(u"Executar"));
-    m_btSend->setToolTip(text(u"Executar Comando") + "  (F5)"_L1);
+    m_btSend->setToolTip(plainToolTip(text(u"Executar Comando") + "  (F5)"_L1));
     m_btParar->setText(text(u"Parar"));
-    m_btParar->setToolTip(text(u"Parar") + "  (Esc)"_L1);
+    m_btParar->setToolTip(plainToolTip(text(u"Parar") + "  (Esc)"_L1));
     for (std::size_t i = 0; i < kTools.size(); ++i) {
         m_tools[i]->setIcon(lineIcon(kTools[i].icon));
-        m_tools[i]->setToolTip(text(kTools[i].key));
+        m_tools[i]->setToolTip(plainToolTip(text(kTools[i].key)));
         m_tools[i]->setAccessibleName(text(kTools[i].key));
     }
     for (QLineEdit *box : m_txtInfoComandos) {

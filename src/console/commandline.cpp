@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "commanddelegate.h"
+#include "plaintext.h"
 
 #include <QCompleter>
 #include <QKeyEvent>
@@ -23,6 +24,7 @@ CommandLine::CommandLine(const QString &name, QWidget *parent)
     setObjectName(name);
     setEditable(true);
     setInsertPolicy(NoInsert);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(kEntriesSeen);
     setModel(m_model);
     setItemDelegate(new CommandDelegate(this));
@@ -47,7 +49,7 @@ void CommandLine::setCommands(const QList<CommandRow> &commands, Language langua
     for (const CommandRow &command : commands) {
         auto *item = new QStandardItem(command.comando);
         item->setData(column < command.info.size() ? command.info[column] : QString(), CommandDelegate::Description);
-        item->setToolTip(item->data(CommandDelegate::Description).toString());
+        item->setToolTip(plainToolTip(item->data(CommandDelegate::Description).toString()));
         m_model->appendRow(item);
     }
     setCurrentIndex(-1);

@@ -1,9 +1,10 @@
 #include "comparatorpane.h"
 
 #include "catalogue.h"
-#include "elidedlabel.h"
 #include "icons.h"
 #include "masterscreen.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "textpane.h"
 #include "theme.h"
@@ -27,7 +28,7 @@ ComparatorPane::ComparatorPane(MasterScreen &screen, QWidget *parent)
     auto *layout = controlColumn(this);
     layout->addWidget(head());
     layout->addWidget(m_txtComparador, 1);
-    layout->addWidget(m_lbInfDados = named(new QLabel, u"lbInfDados"_s));
+    layout->addWidget(m_lbInfDados = named(new PlainLabel, u"lbInfDados"_s));
     layout->addWidget(notes());
     layout->addWidget(buttons());
     connectButtons();
@@ -37,17 +38,18 @@ ComparatorPane::ComparatorPane(MasterScreen &screen, QWidget *parent)
 
 QWidget *ComparatorPane::head()
 {
-    m_ldDispComparador = named(new QLabel, u"ldDispComparador"_s);
-    m_lbLinhas = named(new ElidedLabel, u"lbLinhasComparador"_s);
+    m_ldDispComparador = named(new PlainLabel, u"ldDispComparador"_s);
+    m_lbLinhas = named(new PlainLabel, u"lbLinhasComparador"_s);
     m_lbAutoComparador = named(new QWidget, u"lbAutoComparador"_s);
-    m_lbAutoComparadorX = named(new QLabel, u"lbAutoComparadorX"_s);
+    m_lbAutoComparadorX = named(new PlainLabel, u"lbAutoComparadorX"_s);
     auto *mark = controlRow(m_lbAutoComparador);
-    mark->addWidget(m_picture = new QLabel);
+    mark->addWidget(m_picture = new PlainLabel);
     mark->addWidget(m_lbAutoComparadorX);
     auto *widget = new QWidget;
     auto *row = controlRow(widget);
     row->addWidget(m_ldDispComparador);
     row->addStretch();
+    m_lbLinhas->setMinimumWidth(1);
     row->addWidget(m_lbLinhas);
     row->addWidget(m_lbAutoComparador);
     widget->setMinimumHeight(kHeadHeight); // the mark comes and goes without moving the text
@@ -149,7 +151,7 @@ void ComparatorPane::Traducao_Form()
     m_ldDispComparador->setText(text(u"Comparador: (Dispositivos Gravados)"));
     m_txtComparador->setAccessibleName(text(u"Comparador"));
     m_lbAutoComparadorX->setText(text(u"Auto Comparador TOOL"));
-    m_lbAutoComparador->setToolTip(text(u"Auto Comparador OK"));
+    m_lbAutoComparador->setToolTip(plainToolTip(text(u"Auto Comparador OK")));
     m_picture->setPixmap(lineIcon(u"findings", &Theme::passInk).pixmap(kMarkSide));
     tellShownLines();
     m_lbInfDados->setText(text(u"Informações sobre os dados:"));
@@ -167,6 +169,6 @@ void ComparatorPane::Traducao_Form()
           Caption{m_btExcluir, u"Excluir", u"Excluir Dados Comparador"}, Caption{m_command1, u"Tira Marca", u""},
           Caption{m_command2, u"Add Marca", u""}}) {
         button->setText(text(key));
-        button->setToolTip(text(tip));
+        button->setToolTip(plainToolTip(text(tip)));
     }
 }

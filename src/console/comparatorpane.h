@@ -6,7 +6,7 @@
 
 class MasterScreen;
 struct MasterEdits;
-class ElidedLabel;
+class PlainLabel;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -49,7 +49,7 @@ private:
     QWidget *m_lbAutoComparador;
     QLabel *m_picture;
     QLabel *m_lbAutoComparadorX;
-    ElidedLabel *m_lbLinhas;
+    PlainLabel *m_lbLinhas;
     TextPane *m_txtComparador;
     QLabel *m_lbInfDados;
     std::array<QPlainTextEdit *, 3> m_txtInfoDados;

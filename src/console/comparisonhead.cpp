@@ -1,7 +1,8 @@
 #include "comparisonhead.h"
 
 #include "catalogue.h"
-#include "elidedlabel.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "theme.h"
 #include "verdictbadge.h"
@@ -19,7 +20,7 @@ static constexpr double kMostTolerance = 50;
 ComparisonHead::ComparisonHead(QWidget *parent)
     : QWidget(parent),
       m_badge(named(new VerdictBadge, u"Veredito"_s)),
-      m_lbTolerancia(named(new QLabel, u"lbTolerancia"_s)),
+      m_lbTolerancia(named(new PlainLabel, u"lbTolerancia"_s)),
       m_tolerancia(named(new QDoubleSpinBox, u"Tolerancia"_s)),
       m_btAnteriorDif(named(new QToolButton, u"btAnteriorDif"_s)),
       m_btProximaDif(named(new QToolButton, u"btProximaDif"_s)),
@@ -32,17 +33,20 @@ ComparisonHead::ComparisonHead(QWidget *parent)
     m_btProximaDif->setArrowType(Qt::DownArrow);
     m_btDiferencas->setCheckable(true);
     auto *top = controlRow();
-    top->addWidget(named(new QLabel, u"lbDispositivo"_s));
+    top->addWidget(named(new PlainLabel, u"lbDispositivo"_s));
     for (const auto &name : {u"lbCorte"_s, u"lbIntegridade"_s}) {
-        auto *warning = named(new ElidedLabel, name);
+        auto *warning = named(new PlainLabel, name);
         warning->setMargin(Spacing::unit / 2);
+        warning->setMinimumWidth(1);
         top->addWidget(warning);
     }
     top->addStretch();
     auto *lines = new QVBoxLayout;
     lines->setSpacing(Spacing::unit);
     lines->addLayout(top);
-    lines->addWidget(named(new ElidedLabel, u"lbResumo"_s));
+    auto *summary = named(new PlainLabel, u"lbResumo"_s);
+    summary->setMinimumWidth(1);
+    lines->addWidget(summary);
     auto *row = controlRow(this);
     row->addWidget(m_badge);
     row->addSpacing(Spacing::control);
@@ -76,9 +80,9 @@ void ComparisonHead::Traducao_Form(Language language)
     m_lbTolerancia->setText(caption(u"Tolerância", language));
     m_tolerancia->setAccessibleName(caption(u"Tolerância", language));
     m_btDiferencas->setText(caption(u"Diferenças", language));
-    m_btDiferencas->setToolTip(caption(u"Diferenças", language) + "  (F7)"_L1);
-    m_btProximaDif->setToolTip(caption(u"Próxima diferença", language) + "  (F8)"_L1);
+    m_btDiferencas->setToolTip(plainToolTip(caption(u"Diferenças", language) + "  (F7)"_L1));
+    m_btProximaDif->setToolTip(plainToolTip(caption(u"Próxima diferença", language) + "  (F8)"_L1));
     m_btProximaDif->setAccessibleName(caption(u"Próxima diferença", language));
-    m_btAnteriorDif->setToolTip(caption(u"Diferença anterior", language) + "  (Shift+F8)"_L1);
+    m_btAnteriorDif->setToolTip(plainToolTip(caption(u"Diferença anterior", language) + "  (Shift+F8)"_L1));
     m_btAnteriorDif->setAccessibleName(caption(u"Diferença anterior", language));
 }

@@ -2,8 +2,8 @@
 
 #include "catalogue.h"
 #include "comparatorpane.h"
-#include "elidedlabel.h"
 #include "masterscreen.h"
+#include "plainlabel.h"
 #include "readingform.h"
 #include "textpane.h"
 
@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 ConsolePane::ConsolePane(MasterScreen &screen, QWidget *parent)
     : QWidget(parent),
       m_screen(screen),
-      m_ldDispConect(named(new QLabel, u"ldDispConect"_s)),
-      m_lbLinhas(named(new ElidedLabel, u"lbLinhas"_s)),
+      m_ldDispConect(named(new PlainLabel, u"ldDispConect"_s)),
+      m_lbLinhas(named(new PlainLabel, u"lbLinhas"_s)),
       m_txtConsole(new TextPane(u"txtConsole"_s)),
       m_ckLimpar(named(new QCheckBox, u"ckLimpar"_s)),
       m_btLimpar(named(new QPushButton, u"btLimpar"_s))
@@ -52,6 +52,7 @@ QWidget *ConsolePane::head()
     auto *row = controlRow(widget);
     row->addWidget(m_ldDispConect);
     row->addStretch();
+    m_lbLinhas->setMinimumWidth(1);
     row->addWidget(m_lbLinhas);
     return widget;
 }

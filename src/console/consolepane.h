@@ -4,7 +4,7 @@
 
 class MasterScreen;
 class QCheckBox;
-class ElidedLabel;
+class PlainLabel;
 class QLabel;
 class QPushButton;
 class TextPane;
@@ -30,7 +30,7 @@ private:
 
     MasterScreen &m_screen;
     QLabel *m_ldDispConect;
-    ElidedLabel *m_lbLinhas;
+    PlainLabel *m_lbLinhas;
     TextPane *m_txtConsole;
     QCheckBox *m_ckLimpar;
     QPushButton *m_btLimpar;

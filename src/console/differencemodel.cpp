@@ -1,6 +1,7 @@
 #include "differencemodel.h"
 
 #include "catalogue.h"
+#include "plaintext.h"
 #include "theme.h"
 
 #include <array>
@@ -83,8 +84,8 @@ QString DifferenceModel::tip(const DifferenceRow &row) const
         lines.append(caption(key, m_language));
     for (const QString &line : {row.live, row.recorded, row.change})
         if (!line.isEmpty())
-            lines.append(line.toHtmlEscaped());
-    return u"<pre>%1</pre>"_s.arg(lines.join(u'\n'));
+            lines.append(line);
+    return tabularToolTip(lines.join(u'\n'));
 }
 
 QVariant DifferenceModel::data(const QModelIndex &index, int role) const

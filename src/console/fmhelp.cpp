@@ -1,6 +1,7 @@
 #include "fmhelp.h"
 
 #include "catalogue.h"
+#include "plainlabel.h"
 #include "readingform.h"
 #include "textpane.h"
 #include "theme.h"
@@ -18,7 +19,7 @@ fmHelp::fmHelp(Session &session, QWidget *parent)
     : QDialog(parent),
       m_screen(session),
       m_txtConsole(new TextPane(u"txtConsole"_s)),
-      m_lbClick(named(new QLabel, u"lbClick"_s)),
+      m_lbClick(named(new PlainLabel, u"lbClick"_s)),
       m_txt2(named(new QLineEdit, u"txt2"_s)),
       m_btAdd(named(new QPushButton, u"btAdd"_s))
 {

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "masterscreen.h"
+#include "plainlabel.h"
 #include "readingform.h"
 #include "textpane.h"
 #include "theme.h"
@@ -17,7 +18,7 @@ using namespace Qt::StringLiterals;
 HistoryPane::HistoryPane(MasterScreen &screen, QWidget *parent)
     : QWidget(parent),
       m_screen(screen),
-      m_lbHistComandos(named(new QLabel, u"lbHistComandos"_s)),
+      m_lbHistComandos(named(new PlainLabel, u"lbHistComandos"_s)),
       m_lbHelp(named(new QToolButton, u"lbHelp"_s)),
       m_btCloseHistorico(named(new QPushButton, u"btCloseHistorico"_s)),
       m_listCmd(named(new QListWidget, u"ListCmd"_s)),

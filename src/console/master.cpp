@@ -8,6 +8,8 @@
 #include "findbar.h"
 #include "fmhelp.h"
 #include "historypane.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "savedialog.h"
 #include "textpane.h"
@@ -77,7 +79,7 @@ QWidget *Master::footRow()
 {
     m_findBar = new FindBar(u"Texto"_s);
     m_findBar->setPane(m_console->console());
-    m_lbVar = named(new QLabel, u"lbVar"_s);
+    m_lbVar = named(new PlainLabel, u"lbVar"_s);
     m_lbVar->setFont(textFont(TextSize::Small));
     m_lbVar->setMinimumWidth(1);
     auto *widget = new QWidget;
@@ -224,5 +226,5 @@ void Master::Traducao_Form()
     m_differences->setLanguage(language());
     m_findBar->Traducao_Form(language(), u"Salvar texto");
     m_lbVar->setText(text(u"VAR"));
-    m_lbVar->setToolTip(m_lbVar->text());
+    m_lbVar->setToolTip(plainToolTip(m_lbVar->text()));
 }

@@ -72,8 +72,7 @@ QMap<QString, Field> MasterScreen::state() const
     fields[u"Command1"_s] = {.visible = m_maintains};
     fields[u"Command2"_s] = {.visible = m_maintains};
     const QString comesTo = summary();
-    fields[u"lbResumo"_s] = {.text = comesTo,
-                             .tip = u"<qt>%1</qt>"_s.arg(comesTo.toHtmlEscaped())}; // cut in a narrow window
+    fields[u"lbResumo"_s] = {.text = comesTo, .tip = comesTo}; // cut in a narrow window
     return fields;
 }
 

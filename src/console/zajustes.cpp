@@ -1,5 +1,7 @@
 #include "zajustes.h"
 
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "textpane.h"
 #include "theme.h"
@@ -15,6 +17,8 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+static constexpr int kCommandLetters = 20;
 
 namespace {
 
@@ -58,13 +62,15 @@ zAjustes::zAjustes(Session &session, QWidget *parent)
 
 QWidget *zAjustes::choiceRow()
 {
-    m_lbModelo = named(new QLabel, u"lbModeloBase"_s);
-    m_lbComando = named(new QLabel, u"lbComando"_s);
+    m_lbModelo = named(new PlainLabel, u"lbModeloBase"_s);
+    m_lbComando = named(new PlainLabel, u"lbComando"_s);
     m_comboAparelhos = named(new QComboBox, u"ComboAparelhos"_s);
     m_comboAparelhos->addItems(AjustesScreen::baseModels());
     m_comboAparelhos->setCurrentText(m_ajustes.model());
     m_comboAparelhos->setMinimumWidth(kModelWidth);
     m_txtComandos = named(new QComboBox, u"txtComandos"_s);
+    m_txtComandos->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_txtComandos->setMinimumContentsLength(kCommandLetters);
     m_txtComandos->setEditable(true);
     m_txtComandos->setInsertPolicy(QComboBox::NoInsert);
     m_btAtualizar = named(new QPushButton, u"btAtualizar"_s);
@@ -77,7 +83,7 @@ QWidget *zAjustes::choiceRow()
     row->addSpacing(Spacing::group);
     row->addWidget(m_lbComando);
     row->addWidget(m_txtComandos, 1);
-    row->addWidget(named(new QLabel, u"lbSalvo"_s));
+    row->addWidget(named(new PlainLabel, u"lbSalvo"_s));
     row->addWidget(m_command2);
     row->addWidget(m_btAtualizar);
     return widget;
@@ -86,7 +92,7 @@ QWidget *zAjustes::choiceRow()
 QWidget *zAjustes::paneFor(Side side)
 {
     const PaneNames &names = kPanes.at(static_cast<std::size_t>(side));
-    const Pane pane{named(new QLabel, names.owner), new TextPane(names.text), named(new QPushButton, names.mask),
+    const Pane pane{named(new PlainLabel, names.owner), new TextPane(names.text), named(new QPushButton, names.mask),
                     named(new QPushButton, names.copy)};
     m_panes[static_cast<std::size_t>(side)] = pane;
     auto *foot = controlRow();
@@ -170,7 +176,7 @@ void zAjustes::Traducao_Form()
     m_lbComando->setText(text(u"Comandos"));
     m_txtComandos->setAccessibleName(text(u"Comandos"));
     m_btAtualizar->setText(text(u"Salvar"));
-    m_btAtualizar->setToolTip(text(u"Salvar Alterações"));
+    m_btAtualizar->setToolTip(plainToolTip(text(u"Salvar Alterações")));
     m_command2->setText(text(u"Add Marca"));
     for (const Pane &pane : m_panes) {
         pane.mask->setText(text(u"Tira Marca"));

@@ -3,6 +3,7 @@
 #include "bucktestescreen.h"
 #include "icons.h"
 #include "linelist.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QComboBox>
@@ -31,7 +32,7 @@ QWidget *BuckTeste::choice()
 {
     auto *frame = named(new QWidget, u"FrameBucks"_s);
     auto *row = controlRow(frame);
-    row->addWidget(m_label1 = named(new QLabel, u"Label1"_s));
+    row->addWidget(m_label1 = named(new PlainLabel, u"Label1"_s));
     row->addWidget(m_combo1 = named(new QComboBox, u"Combo1"_s));
     m_combo1->setEditable(true);
     m_combo1->setInsertPolicy(QComboBox::NoInsert);
@@ -45,8 +46,8 @@ QWidget *BuckTeste::lists()
     auto *grid = new QGridLayout(frame);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(Spacing::control);
-    grid->addWidget(m_lbDispositivo = named(new QLabel, u"lbDispositivo"_s), 0, 0);
-    grid->addWidget(m_lbComparador = named(new QLabel, u"Label2"_s), 0, 1);
+    grid->addWidget(m_lbDispositivo = named(new PlainLabel, u"lbDispositivo"_s), 0, 0);
+    grid->addWidget(m_lbComparador = named(new PlainLabel, u"Label2"_s), 0, 1);
     grid->addWidget(m_listView = named(new LineList, u"ListView"_s), 1, 0);
     grid->addWidget(m_listViewComparador = named(new LineList, u"ListViewComparador"_s), 1, 1);
     grid->setColumnStretch(0, 1);

@@ -1,6 +1,7 @@
 #include "pmu.h"
 
 #include "deviationmeter.h"
+#include "plainlabel.h"
 #include "pmuscreen.h"
 #include "tableexport.h"
 #include "theme.h"
@@ -59,7 +60,7 @@ PMU::PMU(Session &session, QWidget *parent) : RailForm(std::make_unique<PMUScree
 
 QWidget *PMU::controls()
 {
-    m_lbTolerancia = named(new QLabel, u"lbTolerancia"_s);
+    m_lbTolerancia = named(new PlainLabel, u"lbTolerancia"_s);
     m_porcTolerancia = named(new QLineEdit, u"PorcTolerancia"_s);
     m_porcTolerancia->setPlaceholderText(u"10"_s);
     m_porcTolerancia->setFixedWidth(kToleranceWidth);
@@ -91,12 +92,12 @@ QWidget *PMU::lines()
     m_grid->setColumnMinimumWidth(Volts, kLeastReading);
     m_grid->setColumnMinimumWidth(Current, kLeastReading);
     for (std::size_t column = 0; column < m_captions.size(); ++column) {
-        m_captions[column] = new QLabel;
+        m_captions[column] = new PlainLabel;
         m_captions[column]->setFont(textFont(TextSize::Small));
         const auto side = column < Volts ? Qt::AlignLeft : Qt::AlignRight;
         m_grid->addWidget(m_captions[column], 0, static_cast<int>(column), side);
     }
-    m_grid->addWidget(m_empty = named(new QLabel, u"lbVazio"_s), 1, 0, 1, Mark + 2);
+    m_grid->addWidget(m_empty = named(new PlainLabel, u"lbVazio"_s), 1, 0, 1, Mark + 2);
     m_area = named(new QScrollArea, u"FrameLinhas"_s);
     m_area->setWidgetResizable(true);
     m_area->setWidget(sheet);
@@ -107,7 +108,7 @@ QWidget *PMU::lines()
 void PMU::addLine()
 {
     const qsizetype place = m_lines.size();
-    const auto label = [place](QLatin1StringView array) { return named(new QLabel, element(array, place)); };
+    const auto label = [place](QLatin1StringView array) { return named(new PlainLabel, element(array, place)); };
     const auto number = [&label](QLatin1StringView array) {
         QLabel *cell = label(array);
         cell->setFont(tabularFont());

@@ -1,5 +1,7 @@
 #include "railform.h"
 
+#include "plainlabel.h"
+
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -15,7 +17,7 @@ RailForm::RailForm(std::unique_ptr<RailScreen> screen, QWidget *parent)
 
 QWidget *RailForm::decimals()
 {
-    m_lbInfoDecimais = named(new QLabel, u"lbInfoDecimais"_s);
+    m_lbInfoDecimais = named(new PlainLabel, u"lbInfoDecimais"_s);
     m_comboDecimais = named(new QComboBox, u"ComboDecimais"_s);
     m_comboDecimais->addItems({u"1"_s, u"2"_s, u"3"_s});
     m_comboDecimaisAmp = named(new QComboBox, u"ComboDecimaisAmp"_s);

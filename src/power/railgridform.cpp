@@ -2,6 +2,8 @@
 
 #include "icons.h"
 #include "panelgrid.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "reportbuttons.h"
 
 #include <QHBoxLayout>
@@ -47,7 +49,7 @@ QWidget *RailGridForm::orders()
 {
     auto *frame = named(new QWidget, u"Frame1"_s);
     auto *row = controlRow(frame);
-    row->addWidget(m_lbClassificacao = named(new QLabel, u"lbClassificacao"_s));
+    row->addWidget(m_lbClassificacao = named(new PlainLabel, u"lbClassificacao"_s));
     static constexpr std::array<QStringView, 3> kNames = {u"OpMalha", u"OpIc", u"OpPorc"};
     for (std::size_t i = 0; i < kNames.size(); ++i) {
         m_orders[i] = named(new QRadioButton, kNames[i].toString());
@@ -60,7 +62,7 @@ QWidget *RailGridForm::recordings()
 {
     auto *frame = named(new QWidget, u"FrameGravacao"_s);
     auto *row = controlRow(frame);
-    row->addWidget(m_lbGravacao = named(new QLabel, u"lbGravacao"_s));
+    row->addWidget(m_lbGravacao = named(new PlainLabel, u"lbGravacao"_s));
     for (int slot = 1; slot <= 3; ++slot) {
         const auto place = static_cast<std::size_t>(slot - 1);
         m_btGravar[place] = named(new QToolButton, element(u"btGravar"_s, slot));
@@ -116,10 +118,10 @@ void RailGridForm::translateRecordings()
         const QString record = text(u"Gravar") + u' ' + QString::number(slot);
         const QString erase = text(u"Excluir") + u' ' + QString::number(slot);
         m_btGravar[place]->setIcon(lineIcon(u"record"));
-        m_btGravar[place]->setToolTip(record);
+        m_btGravar[place]->setToolTip(plainToolTip(record));
         m_btGravar[place]->setAccessibleName(record);
         m_btExcluir[place]->setIcon(lineIcon(u"delete"));
-        m_btExcluir[place]->setToolTip(erase);
+        m_btExcluir[place]->setToolTip(plainToolTip(erase));
         m_btExcluir[place]->setAccessibleName(erase);
     }
 }

@@ -1,5 +1,6 @@
 #include "vcores.h"
 
+#include "plainlabel.h"
 #include "theme.h"
 #include "vcoresscreen.h"
 
@@ -21,7 +22,7 @@ VCores::VCores(Session &session, QWidget *parent) : RailGridForm(std::make_uniqu
 
 QWidget *VCores::chips()
 {
-    m_lbICs = named(new QLabel, u"lbICs"_s);
+    m_lbICs = named(new PlainLabel, u"lbICs"_s);
     m_lbICs->setFont(textFont(TextSize::Small));
     m_cbICs = named(new QComboBox, u"cbICs"_s);
     auto *frame = named(new QWidget, u"FrameICs"_s);

@@ -3,9 +3,12 @@
 #include "catalogue.h"
 #include "icons.h"
 #include "models.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "statuslamp.h"
 #include "theme.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,6 +29,7 @@ constexpr int kStatusWidth = 126;
 constexpr int kConnectWidth = 132;
 constexpr int kDeviceWidth = 200;
 constexpr int kPortWidth = 320;
+constexpr int kModelWidth = 200;
 
 /// The list shows what is behind a port number; the field keeps the bare number.
 class PortDelegate : public QStyledItemDelegate
@@ -74,19 +78,19 @@ ConnectionBar::ConnectionBar(Session &session, QWidget *parent)
     : QWidget(parent),
       m_session(session),
       m_imgStatus(made(new StatusLamp, u"ImgStatus"_s)),
-      m_lbFramePorta(made(new QLabel, u"lbFramePorta"_s)),
+      m_lbFramePorta(made(new PlainLabel, u"lbFramePorta"_s)),
       m_cbPortas(made(new QComboBox, u"cbPortas"_s)),
-      m_lbBox(made(new QLabel, u"lbBox"_s)),
+      m_lbBox(made(new PlainLabel, u"lbBox"_s)),
       m_imgAtualizar(made(new QToolButton, u"imgAtualizar"_s)),
-      m_lbSpeed(new QLabel),
+      m_lbSpeed(new PlainLabel),
       m_comboBox(made(new QComboBox, u"ComboBox"_s)),
       m_connect(made(new QPushButton, u"Botoes(1)"_s)),
-      m_lbModeloFundo(made(new QLabel, u"lbModeloFundo"_s)),
+      m_lbModeloFundo(made(new PlainLabel, u"lbModeloFundo"_s)),
       m_comboAparelhos(made(new QComboBox, u"ComboAparelhos"_s)),
       m_comboAparelhosX(made(new QComboBox, u"ComboAparelhosX"_s)),
-      m_lbModelo(made(new QLabel, u"lbModelo"_s)),
-      m_lbTristarTigris(made(new QLabel, u"lbTristarTigris"_s)),
-      m_lbSimulado(made(new QLabel, u"lbSimulado"_s))
+      m_lbModelo(made(new PlainLabel, u"lbModelo"_s)),
+      m_lbTristarTigris(made(new PlainLabel, u"lbTristarTigris"_s)),
+      m_lbSimulado(made(new PlainLabel, u"lbSimulado"_s))
 {
     m_cbPortas->setEditable(true);
     m_cbPortas->setInsertPolicy(QComboBox::NoInsert);
@@ -110,6 +114,7 @@ ConnectionBar::ConnectionBar(Session &session, QWidget *parent)
     m_lbBox->setFont(textFont(TextSize::Small));
     m_lbSimulado->setFont(textFont(TextSize::Small));
     m_lbModelo->setFont(textFont(TextSize::Large));
+    m_lbModelo->setMaximumWidth(kModelWidth);
     m_lbTristarTigris->setFont(textFont(TextSize::Small));
     layOut();
     connectControls();
@@ -185,14 +190,13 @@ void ConnectionBar::listPorts(const QList<PortEntry> &ports)
 
 void ConnectionBar::paintDevice()
 {
-    m_cbPortas->lineEdit()->setToolTip(port()); // a long one is cut in the field
+    m_cbPortas->lineEdit()->setToolTip(plainToolTip(port())); // a long one is cut in the field
     const int place = m_cbPortas->findText(port());
     const QString none = m_cbPortas->count() == 0 && port().isEmpty()
                              ? caption(u"Nenhuma porta encontrada", m_session.language())
                              : QString();
     const QString shown = place < 0 ? none : m_cbPortas->itemData(place, kDescriptionRole).toString();
-    m_lbBox->setText(m_lbBox->fontMetrics().elidedText(shown, Qt::ElideRight, kDeviceWidth));
-    m_lbBox->setToolTip(shown);
+    m_lbBox->setText(shown);
     m_lbBox->setVisible(!shown.isEmpty());
 }
 
@@ -200,7 +204,7 @@ void ConnectionBar::paintStatus()
 {
     m_imgStatus->setLight(lightOf(m_session.lamp()), m_session.St1());
     m_connect->setText(m_session.connectCaption());
-    m_connect->setToolTip(m_session.connectCaption() + "  (F2)"_L1);
+    m_connect->setToolTip(plainToolTip(m_session.connectCaption() + "  (F2)"_L1));
     m_connect->setAccessibleName(m_session.connectCaption());
     const bool idle = m_session.lamp() == Lamp::Branco;
     m_cbPortas->setEnabled(idle);
@@ -226,19 +230,19 @@ void ConnectionBar::Traducao_Form()
     const auto text = [this](QStringView key) { return caption(key, m_session.language()); };
     m_lbFramePorta->setText(text(u"Porta COM"));
     m_cbPortas->setAccessibleName(text(u"Porta COM"));
-    m_cbPortas->setToolTip(text(u"Porta COM de comunicação com o dispositivo") + "  (F4)"_L1);
+    m_cbPortas->setToolTip(plainToolTip(text(u"Porta COM de comunicação com o dispositivo") + "  (F4)"_L1));
     m_imgAtualizar->setIcon(lineIcon(u"refresh"));
-    m_imgAtualizar->setToolTip(text(u"Atualizar portas"));
+    m_imgAtualizar->setToolTip(plainToolTip(text(u"Atualizar portas")));
     m_imgAtualizar->setAccessibleName(text(u"Atualizar portas"));
     m_lbSpeed->setText(text(u"Velocidade"));
     m_comboBox->setAccessibleName(text(u"Velocidade"));
-    m_comboBox->setToolTip(u"1: %1   2: %2"_s.arg(text(u"Rápida"), text(u"Lenta")));
+    m_comboBox->setToolTip(plainToolTip(u"1: %1   2: %2"_s.arg(text(u"Rápida"), text(u"Lenta"))));
     m_lbModeloFundo->setText(text(u"Modelo"));
     m_lbSimulado->setText(text(u"Telefone simulado").replace(u' ', u'\n'));
     m_lbSimulado->setAccessibleName(text(u"Telefone simulado"));
     for (QComboBox *models : {m_comboAparelhos, m_comboAparelhosX}) {
         models->setAccessibleName(text(u"Modelo do dispositivo"));
-        models->setToolTip(text(u"Selecione o modelo do dispositivo"));
+        models->setToolTip(plainToolTip(text(u"Selecione o modelo do dispositivo")));
     }
     m_lbModelo->setAccessibleName(text(u"Modelo detectado"));
     paintStatus();
@@ -247,5 +251,8 @@ void ConnectionBar::Traducao_Form()
 
 void ConnectionBar::focusModel()
 {
+    const QWidget *holder = QApplication::focusWidget();
+    if (holder && holder->testAttribute(Qt::WA_InputMethodEnabled))
+        return; // what is being typed would choose a model
     (m_session.isModelKnown() ? m_comboAparelhosX : m_comboAparelhos)->setFocus();
 }

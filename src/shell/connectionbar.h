@@ -24,7 +24,7 @@ public:
     /// Lists the ports of the machine and selects the highest; a typed port stays.
     void listPorts(const QList<PortEntry> &ports);
     void Traducao_Form();
-    /// Puts the focus on the model selector that is shown.
+    /// Puts the focus on the model selector that is shown, unless somebody types.
     void focusModel();
 
 signals:

@@ -4,6 +4,8 @@
 #include "findingslist.h"
 #include "icons.h"
 #include "moduletable.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "theme.h"
 
 #include <QHBoxLayout>
@@ -13,7 +15,7 @@
 using namespace Qt::StringLiterals;
 
 FindingsPanel::FindingsPanel(QWidget *parent)
-    : QWidget(parent), m_title(new QLabel), m_clear(new QToolButton), m_list(new FindingsList(m_findings))
+    : QWidget(parent), m_title(new PlainLabel), m_clear(new QToolButton), m_list(new FindingsList(m_findings))
 {
     setObjectName(u"FrameAchados"_s);
     m_list->setObjectName(u"ListaAchados"_s);
@@ -42,7 +44,7 @@ void FindingsPanel::Traducao_Form(Language language)
     m_findings.setWords(language, screens);
     m_title->setText(caption(u"Achados", language));
     m_clear->setIcon(lineIcon(u"delete"));
-    m_clear->setToolTip(caption(u"Limpar achados", language));
+    m_clear->setToolTip(plainToolTip(caption(u"Limpar achados", language)));
     m_clear->setAccessibleName(caption(u"Limpar achados", language));
     m_list->setEmptyText(caption(u"DICA_ACHADOS", language));
     m_list->setAccessibleName(caption(u"Achados", language));

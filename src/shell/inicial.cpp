@@ -1,12 +1,15 @@
 #include "inicial.h"
 
 #include "catalogue.h"
+#include "chooserguard.h"
 #include "connectionbar.h"
 #include "exchangedrawer.h"
 #include "findingspanel.h"
 #include "icons.h"
 #include "modulerail.h"
 #include "moduletable.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "reconnector.h"
 #include "screentabs.h"
 #include "sobre.h"
@@ -17,10 +20,13 @@
 #include <QLabel>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -44,16 +50,17 @@ Inicial::Inicial(const WindowParts &parts, QWidget *parent)
       m_btReconectar(new QToolButton),
       m_reconnector(new Reconnector(parts.session, portsNow, this)),
       m_middle(new QHBoxLayout),
-      m_emptyHint(new QLabel),
+      m_emptyHint(new PlainLabel),
       m_findings(new FindingsPanel),
       m_findingsButton(new QToolButton),
       m_menuButton(new QToolButton),
       m_menu(new QMenu(this)),
-      m_notice(new QLabel),
+      m_notice(new PlainLabel),
       m_progress(new QProgressBar)
 {
     setObjectName(u"Inicial"_s);
     setWindowIcon(programIcon());
+    new ChooserGuard(this);
     setCentralWidget(content());
     fillStatusBar();
     connectSession();
@@ -123,7 +130,6 @@ QWidget *Inicial::content()
 void Inicial::fillStatusBar()
 {
     m_notice->setObjectName(u"St2"_s);
-    m_notice->setTextFormat(Qt::PlainText);
     m_progress->setObjectName(u"St3"_s);
     m_progress->setRange(0, 100);
     m_progress->setMaximumWidth(kProgressWidth);
@@ -208,7 +214,7 @@ void Inicial::connectReconnector()
     connect(m_btReconectar, &QToolButton::clicked, m_reconnector, &Reconnector::reconnect);
     connect(m_reconnector, &Reconnector::withdrawn, m_btReconectar, &QToolButton::hide);
     connect(m_reconnector, &Reconnector::offered, this, [this](const QString &device) {
-        m_btReconectar->setToolTip(device);
+        m_btReconectar->setToolTip(plainToolTip(device));
         m_btReconectar->show();
     });
 }
@@ -262,12 +268,31 @@ void Inicial::connectForm(ScreenForm *form)
 
 WindowState Inicial::state() const
 {
-    return {saveGeometry(), m_tabs->names(), m_tabs->frontName(), m_connectionBar->port()};
+    return {saveGeometry(), m_tabs->names(), m_tabs->frontName(), m_connectionBar->port(), m_theme};
+}
+
+/// Moved and cut to where it is seen whole: the screen may be another one than at the last end.
+static QRect within(const QRect &room, const QRect &wanted)
+{
+    const QSize size = wanted.size().boundedTo(room.size());
+    const QPoint last = room.topLeft() + QPoint(room.width() - size.width(), room.height() - size.height());
+    return {QPoint(std::clamp(wanted.x(), room.x(), last.x()), std::clamp(wanted.y(), room.y(), last.y())), size};
+}
+
+void Inicial::keepOnScreen()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    const QRect place = within(screen()->availableGeometry(), {pos(), size()});
+    resize(place.size());
+    move(place.topLeft()); // of the frame: its title must be in reach
 }
 
 void Inicial::restore(const WindowState &state)
 {
+    m_theme = state.theme;
     restoreGeometry(state.geometry);
+    keepOnScreen();
     if (!state.port.isEmpty())
         m_connectionBar->setPort(state.port);
     for (const QString &screen : state.screens)
@@ -293,7 +318,7 @@ void Inicial::showNotice(const Trouble &trouble)
         if (const auto shown = message(notice, m_session.language()))
             lines += shown->lines;
     m_notice->setText(lines.join(u' ').simplified());
-    m_notice->setToolTip(m_notice->text());
+    m_notice->setToolTip(plainToolTip(m_notice->text()));
 }
 
 /// Every failure gets the line; a box only the first of its kind, or one that the user's own doing met.

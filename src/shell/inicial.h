@@ -66,6 +66,8 @@ signals:
     void importWanted();
     /// Another screen is in front, or none any more.
     void screensChanged();
+    /// The user has chosen another theme.
+    void themeChosen();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -81,6 +83,7 @@ private:
     void addDrawer();
     void buildMenu();
     void connectForm(ScreenForm *form);
+    void keepOnScreen();
     void listPorts();
     void tellStoreTrouble(const Trouble &trouble);
     void paintStatus();
@@ -114,6 +117,7 @@ private:
     QLabel *m_notice;
     QProgressBar *m_progress;
     bool m_findingsOpened = false;
-    QString m_foundOn; ///< the model that the findings are about
+    ThemeChoice m_theme = ThemeChoice::Desktop; ///< as chosen, whatever this start was told
+    QString m_foundOn;                          ///< the model that the findings are about
     std::optional<Notice> m_toldTrouble;
 };

@@ -8,6 +8,7 @@
 #include "findingspanel.h"
 #include "icons.h"
 #include "modulerail.h"
+#include "plaintext.h"
 #include "reportdialog.h"
 #include "screentabs.h"
 #include "termsbanner.h"
@@ -68,7 +69,7 @@ void Inicial::paintFindings()
 {
     const QString shown = u"%1: %2"_s.arg(text(u"Achados")).arg(m_findings->count());
     m_findingsButton->setText(shown);
-    m_findingsButton->setToolTip(shown + "  (F3)"_L1);
+    m_findingsButton->setToolTip(plainToolTip(shown + "  (F3)"_L1));
 }
 
 /// In a small window the list lies over the screen, which keeps its width.
@@ -107,7 +108,8 @@ void Inicial::buildMenu()
         ->setObjectName(u"Botoes(10)"_s);
     QMenu *themes = m_menu->addMenu(lineIcon(u"theme"), text(u"Tema"));
     for (const auto &[choice, key] : kThemes)
-        themes->addAction(text(key), this, [this, chosen = choice] { retheme(chosen); });
+        themes->addAction(text(key), this, [this, chosen = choice] { retheme(chosen); })
+            ->setObjectName(u"Tema(%1)"_s.arg(static_cast<int>(choice)));
     m_menu
         ->addAction(lineIcon(u"pdf"), text(u"Relatórios"), this,
                     [this] { (new ReportDialog(m_session, this))->open(); })
@@ -123,6 +125,8 @@ void Inicial::retheme(ThemeChoice choice)
     applyTheme(choice);
     applyStyleSheet(*qApp);
     m_tabs->paintAgain();
+    m_theme = choice;
+    emit themeChosen();
 }
 
 void Inicial::Traducao_Form_Inicial()
@@ -130,13 +134,13 @@ void Inicial::Traducao_Form_Inicial()
     m_connectionBar->Traducao_Form();
     m_terms->Traducao_Form();
     m_findings->Traducao_Form(m_session.language());
-    m_menuButton->setToolTip(text(u"Ferramentas"));
+    m_menuButton->setToolTip(plainToolTip(text(u"Ferramentas")));
     m_menuButton->setAccessibleName(text(u"Ferramentas"));
     if (m_drawer)
         m_drawer->Traducao_Form(m_session.language());
     m_btReconectar->setText(text(u"Reconectar"));
     m_btLog->setText(text(u"Registro da comunicação"));
-    m_btLog->setToolTip(text(u"Registro da comunicação") + "  (F12)"_L1);
+    m_btLog->setToolTip(plainToolTip(text(u"Registro da comunicação") + "  (F12)"_L1));
     buildMenu();
     paintStatus();
     paintTabs();

@@ -2,6 +2,8 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "railbutton.h"
 #include "theme.h"
 
@@ -23,7 +25,7 @@ static QString shortKey(QString shortcut)
     return shortcut.remove("Ctrl+"_L1).replace("Shift+"_L1, u"⇧"_s);
 }
 
-ModuleRail::ModuleRail(QWidget *parent) : QScrollArea(parent), m_keyHint(new QLabel(u"Ctrl +"_s))
+ModuleRail::ModuleRail(QWidget *parent) : QScrollArea(parent), m_keyHint(new PlainLabel(u"Ctrl +"_s))
 {
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
@@ -32,7 +34,7 @@ ModuleRail::ModuleRail(QWidget *parent) : QScrollArea(parent), m_keyHint(new QLa
     for (const Module &module : modules()) {
         const int group = static_cast<int>(module.group);
         if (!m_headings.contains(group)) {
-            m_headings[group] = new QLabel;
+            m_headings[group] = new PlainLabel;
             m_headings[group]->setFont(textFont(TextSize::Small));
             m_headings[group]->setContentsMargins(Spacing::unit, group == 0 ? 0 : Spacing::unit, 0, 0);
             layout->addWidget(m_headings[group]);
@@ -76,7 +78,7 @@ void ModuleRail::Traducao_Form(Language language, const QString &model)
         RailButton *button = m_buttons.value(module.name);
         const QString text = caption(captionKey(module, model), language);
         button->setText(text);
-        button->setToolTip(text + u"  ("_s + module.shortcut + u')');
+        button->setToolTip(plainToolTip(text + u"  ("_s + module.shortcut + u')'));
         button->setAccessibleName(text);
         m_headings.value(static_cast<int>(module.group))->setText(caption(groupCaption(module.group), language));
     }

@@ -1,6 +1,7 @@
 #include "reportdialog.h"
 
 #include "catalogue.h"
+#include "plainlabel.h"
 #include "settingkeys.h"
 #include "theme.h"
 
@@ -36,7 +37,7 @@ constexpr int kWidth = 520;
 } // namespace
 
 ReportDialog::ReportDialog(Session &session, QWidget *parent)
-    : QDialog(parent), m_session(session), m_trouble(new QLabel)
+    : QDialog(parent), m_session(session), m_trouble(new PlainLabel)
 {
     setObjectName(u"ReportDialog"_s);
     setWindowTitle(text(u"Relatórios"));
@@ -48,11 +49,10 @@ ReportDialog::ReportDialog(Session &session, QWidget *parent)
         m_fields[i]->setObjectName(kSettings[i].control.toString());
         m_fields[i]->setAccessibleName(text(kSettings[i].caption));
         const bool isFile = i + 1 == kFields;
-        form->addRow(text(kSettings[i].caption), isFile ? fieldWithBrowse(m_fields[i]) : m_fields[i]);
+        form->addRow(new PlainLabel(text(kSettings[i].caption)), isFile ? fieldWithBrowse(m_fields[i]) : m_fields[i]);
     }
     m_fields[0]->setPlaceholderText(text(u"vazio: o programa faz o PDF"));
     m_trouble->setWordWrap(true);
-    m_trouble->setTextFormat(Qt::PlainText);
     m_trouble->hide();
     form->addRow(m_trouble);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);

@@ -96,7 +96,7 @@ void ScreenTabs::Traducao_Form()
     for (int i = 0; i < count(); ++i) {
         const Module *module = moduleNamed(widget(i)->objectName());
         setTabText(i, plainText(caption(captionKey(*module, m_session.model()), m_session.language())));
-        setTabToolTip(i, caption(u"Fechar aba", m_session.language()) + "  (Ctrl+W)"_L1);
+        setTabToolTip(i, plainToolTip(caption(u"Fechar aba", m_session.language()) + "  (Ctrl+W)"_L1));
         setTabIcon(i, lineIcon(QString(module->icon)));
     }
 }

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QDialogButtonBox>
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 static QLabel *paragraph(const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = new PlainLabel(text);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
@@ -25,16 +26,16 @@ Sobre::Sobre(Language language, const QString &storePath, QWidget *parent) : QDi
     setObjectName(u"Sobre"_s);
     setWindowTitle(text(u"Sobre"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto *picture = new QLabel;
+    auto *picture = new PlainLabel;
     picture->setPixmap(programIcon().pixmap(64));
-    auto *title = new QLabel(u"Tavimo Prelt"_s);
+    auto *title = new PlainLabel(u"Tavimo Prelt"_s);
     title->setFont(textFont(TextSize::Large));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::group, Spacing::group, Spacing::group, Spacing::group);
     layout->setSpacing(Spacing::control);
     layout->addWidget(picture);
     layout->addWidget(title);
-    layout->addWidget(new QLabel(text(u"Versão") + " 2.22"_L1));
+    layout->addWidget(new PlainLabel(text(u"Versão") + " 2.22"_L1));
     for (const QStringView key : {u"SOBRE_FINALIDADE", u"SOBRE_REFERENCIAS", u"TERMOS", u"SOBRE_LICENCA"})
         layout->addWidget(paragraph(text(key)));
     layout->addWidget(paragraph(text(u"Dados") + ": "_L1 + storePath));

@@ -1,6 +1,7 @@
 #include "termsbanner.h"
 
 #include "catalogue.h"
+#include "plainlabel.h"
 #include "settings.h"
 #include "theme.h"
 
@@ -14,7 +15,7 @@ static constexpr auto kSetting = "terms"_L1;
 static constexpr auto kAccepted = "accepted"_L1;
 
 TermsBanner::TermsBanner(Session &session, QWidget *parent)
-    : QFrame(parent), m_session(session), m_terms(new QLabel), m_yes(new QPushButton), m_no(new QPushButton)
+    : QFrame(parent), m_session(session), m_terms(new PlainLabel), m_yes(new QPushButton), m_no(new QPushButton)
 {
     setObjectName(u"FrameTermos"_s);
     m_yes->setObjectName(u"TermosYes"_s);

@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "plaintext.h"
 #include "theme.h"
 
 #include <QInputDialog>
@@ -67,7 +68,6 @@ QTextEdit *brokenText(const QString &text)
 /// A label cuts off a word that is wider than it, an address for one. What is told can be copied.
 void showWhole(QMessageBox &box)
 {
-    box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
     if (!label || !hasLongWord(box.text()))
@@ -84,8 +84,7 @@ QMessageBox *WindowBoxes::messageBox(const Trouble &trouble) const
     QStringList lines = shown.lines;
     for (const Notice &remedy : trouble.remedies)
         lines += boxMessage(remedy, m_language()).lines;
-    auto *box =
-        new QMessageBox(QMessageBox::NoIcon, shown.title.trimmed(), lines.join(u'\n'), QMessageBox::Ok, m_parent);
+    QMessageBox *box = plainBox(shown.title.trimmed(), lines.join(u'\n'), QMessageBox::Ok, m_parent);
     box->setIconPixmap(boxPicture(shown.icon));
     showWhole(*box);
     return box;
@@ -132,8 +131,7 @@ Answer answerOf(QMessageBox::StandardButton button)
 QMessageBox *WindowBoxes::questionBox(const Question &question) const
 {
     const bool asks = question.choices != Question::Choices::Ok;
-    auto *box =
-        new QMessageBox(QMessageBox::NoIcon, question.title, question.text, buttonsOf(question.choices), m_parent);
+    QMessageBox *box = plainBox(question.title, question.text, buttonsOf(question.choices), m_parent);
     box->setIconPixmap(boxPicture(asks ? MessageIcon::Question : MessageIcon::Information));
     showWhole(*box);
     for (const AnswerButton &row : kAnswers)
@@ -160,6 +158,11 @@ void WindowBoxes::input(const Question &question, const QString &proposal,
     add([this, question, proposal, answered = std::move(answered)] {
         auto *box = new QInputDialog(m_parent);
         box->setWindowTitle(question.title);
+        box->setLabelText(u""_s); // makes the label
+        auto *label = box->findChild<QLabel *>();
+        label->setTextFormat(Qt::PlainText);
+        label->setMaximumWidth(kTextWidth);
+        label->setWordWrap(true);
         box->setLabelText(question.text);
         box->setTextValue(proposal);
         box->setCancelButtonText(caption(u"Cancelar", m_language()));

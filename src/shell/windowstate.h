@@ -1,5 +1,7 @@
 #pragma once
 
+#include "theme.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -11,6 +13,7 @@ struct WindowState
     QStringList screens; ///< the open ones in the order of their tabs
     QString front;       ///< the one that was in front
     QString port;
+    ThemeChoice theme = ThemeChoice::Desktop;
 
     friend bool operator==(const WindowState &, const WindowState &) = default;
 };

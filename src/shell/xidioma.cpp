@@ -1,6 +1,7 @@
 #include "xidioma.h"
 
 #include "catalogue.h"
+#include "plainlabel.h"
 #include "theme.h"
 
 #include <QLabel>
@@ -21,7 +22,7 @@ xIdioma::xIdioma(Session &session, QWidget *parent) : QDialog(parent)
     setAttribute(Qt::WA_DeleteOnClose);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Spacing::group, Spacing::group, Spacing::group, Spacing::group);
-    layout->addWidget(new QLabel(caption(u"Idiomas disponíveis", session.language())));
+    layout->addWidget(new PlainLabel(caption(u"Idiomas disponíveis", session.language())));
     for (const auto &[language, key] : kChoices) {
         auto *button = new QPushButton(caption(key, language));
         button->setObjectName(u"btIdioma(%1)"_s.arg(static_cast<int>(language)));

@@ -4,6 +4,7 @@
 #include "journalpages.h"
 #include "journalpanel.h"
 #include "panelgrid.h"
+#include "plainlabel.h"
 #include "readingform.h"
 #include "savedialog.h"
 #include "theme.h"
@@ -58,7 +59,7 @@ QWidget *Journal::list()
     m_search->setClearButtonEnabled(true);
     auto *const row = controlRow();
     row->addWidget(m_search, 1);
-    row->addWidget(named(new QLabel, u"lbContagem"_s));
+    row->addWidget(named(new PlainLabel, u"lbContagem"_s));
     auto *const widget = new QWidget;
     auto *const column = controlColumn(widget);
     column->addLayout(row);
@@ -68,7 +69,7 @@ QWidget *Journal::list()
 
 QWidget *Journal::details()
 {
-    m_lbNota = new QLabel;
+    m_lbNota = new PlainLabel;
     m_note = named(new QLineEdit, u"txtNota"_s);
     m_lbNota->setBuddy(m_note);
     auto *const note = controlRow();
@@ -83,11 +84,9 @@ QWidget *Journal::details()
     return widget;
 }
 
-/// What stands here was typed by people and sent by phones: it is text and nothing else.
-static QLabel *plainLabel(const QString &name)
+static QLabel *wrappedLabel(const QString &name)
 {
-    auto *const label = named(new QLabel, name);
-    label->setTextFormat(Qt::PlainText);
+    auto *const label = named(new PlainLabel, name);
     label->setWordWrap(true); // rather two lines than a window that must grow
     return label;
 }
@@ -97,8 +96,8 @@ QWidget *Journal::head()
     m_badge = named(new VerdictBadge, u"Veredito"_s);
     auto *const texts = new QWidget;
     auto *const column = controlColumn(texts);
-    column->addWidget(plainLabel(u"lbTitulo"_s));
-    column->addWidget(plainLabel(u"lbResumo"_s));
+    column->addWidget(wrappedLabel(u"lbTitulo"_s));
+    column->addWidget(wrappedLabel(u"lbResumo"_s));
     auto *const widget = new QWidget;
     auto *const row = controlRow(widget);
     row->addWidget(m_badge);

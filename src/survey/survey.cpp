@@ -3,6 +3,7 @@
 #include "findingcolumns.h"
 #include "icons.h"
 #include "panelgrid.h"
+#include "plainlabel.h"
 #include "savedialog.h"
 #include "surveyscreen.h"
 
@@ -22,7 +23,7 @@ Survey::Survey(Session &session, QWidget *parent)
       m_syscfg(named(new QCheckBox, u"OpSyscfg"_s)),
       m_memory(named(new QCheckBox, u"OpMemoria"_s)),
       m_faults(named(new QCheckBox, u"OpFalhas"_s)),
-      m_lbNota(new QLabel),
+      m_lbNota(new PlainLabel),
       m_nota(named(new QLineEdit, u"txtNota"_s)),
       m_btPdf(named(new QPushButton, u"btPDF"_s)),
       m_btCancelar(named(new QPushButton, u"btCancelar"_s)),
@@ -30,7 +31,7 @@ Survey::Survey(Session &session, QWidget *parent)
 {
     layOut({.note = u"lbProgresso"_s,
             .buttons = {m_btPdf, m_btCancelar, m_btIniciar},
-            .choices = {m_syscfg, m_memory, m_faults, nullptr, named(new QLabel, u"lbSerie"_s)},
+            .choices = {m_syscfg, m_memory, m_faults, nullptr, named(new PlainLabel, u"lbSerie"_s)},
             .body = body()});
     painter().setRows(&m_rows);
     connectControls();

@@ -4,6 +4,8 @@
 #include "deviationmeter.h"
 #include "fieldpaint.h"
 #include "marklabel.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "theme.h"
 #include "valuefield.h"
 
@@ -104,7 +106,7 @@ void ChipDrawing::fillBlock(const QList<QWidget *> &core)
 
 void ChipDrawing::add(const ChipPin &pin, QVBoxLayout &column)
 {
-    Laid laid{.pin = &pin, .head = nullptr, .caption = new QLabel(pin.net), .row = nullptr};
+    Laid laid{.pin = &pin, .head = nullptr, .caption = new PlainLabel(pin.net), .row = nullptr};
     laid.head = headOf(laid);
     laid.row = rowOf(laid);
     column.addWidget(laid.head);
@@ -190,7 +192,7 @@ void ChipDrawing::showFact(Laid &laid, const Panel &panel, Language language)
             laid.verdict = worst(laid.verdict, judgement.verdict);
     if (laid.meter)
         laid.meter->setRow(shown);
-    laid.row->setToolTip(shown.cell(u"REF"));
+    laid.row->setToolTip(plainToolTip(shown.cell(u"REF")));
     const QList<ValueField *> fields = laid.row->findChildren<ValueField *>();
     laid.isSeen = !laid.row->isHidden() && std::ranges::any_of(fields, [&laid](const ValueField *field) {
         return field != laid.deviation && !field->isHidden();

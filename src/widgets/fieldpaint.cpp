@@ -2,6 +2,7 @@
 
 #include "gauge.h"
 #include "linelist.h"
+#include "plaintext.h"
 #include "theme.h"
 
 #include <QAbstractButton>
@@ -13,6 +14,8 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +53,17 @@ static void setValue(QWidget &control, int value)
     control.setUpdatesEnabled(updates);
 }
 
+/// As wide as its longest item, as far as that is reasonable.
+static void boundWidth(QComboBox &combo, const QStringList &items)
+{
+    static constexpr qsizetype kMostLetters = 32;
+    qsizetype longest = 0;
+    for (const QString &item : items)
+        longest = std::max(longest, item.size());
+    combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo.setMinimumContentsLength(static_cast<int>(std::min(longest, kMostLetters)));
+}
+
 /// The chosen entry stays chosen where the new list still has it, and what was typed stays anyway.
 static void setItems(QWidget &control, const QStringList &items)
 {
@@ -57,6 +71,7 @@ static void setItems(QWidget &control, const QStringList &items)
         const QString chosen = combo.currentText();
         combo.clear();
         combo.addItems(items);
+        boundWidth(combo, items);
         if (const int place = combo.findText(chosen); place >= 0)
             combo.setCurrentIndex(place);
         else if (combo.isEditable() && !chosen.isEmpty())
@@ -112,7 +127,7 @@ Field paintField(QWidget &control, const Field &field, const Field &painted)
     if (taken(now.value, field.value))
         setValue(control, *now.value);
     if (taken(now.tip, field.tip))
-        control.setToolTip(*now.tip);
+        control.setToolTip(plainToolTip(*now.tip));
     if (taken(now.enabled, field.enabled))
         control.setEnabled(*now.enabled);
     if (taken(now.visible, field.visible))

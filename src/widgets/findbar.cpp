@@ -2,6 +2,8 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "plainlabel.h"
+#include "plaintext.h"
 #include "textpane.h"
 #include "theme.h"
 
@@ -19,7 +21,7 @@ FindBar::FindBar(const QString &what, QWidget *parent)
       m_find(new QLineEdit),
       m_previous(button(u"btAnterior"_s)),
       m_next(button(u"btProximo"_s)),
-      m_hit(new QLabel),
+      m_hit(new PlainLabel),
       m_copy(button(u"btCopiar"_s + what)),
       m_save(button(u"btSalvar"_s + what))
 {
@@ -78,7 +80,7 @@ void FindBar::Traducao_Form(Language language, QStringView saveKey)
     for (const auto &[button, icon, key] : {Caption{m_copy, u"copy", u"Copiar"}, Caption{m_save, u"save", saveKey},
                                             Caption{m_next, u"", u"Próximo"}, Caption{m_previous, u"", u"Anterior"}}) {
         const QString text = caption(key, language);
-        button->setToolTip(text);
+        button->setToolTip(plainToolTip(text));
         button->setAccessibleName(text);
         if (!icon.isEmpty())
             button->setIcon(lineIcon(icon));

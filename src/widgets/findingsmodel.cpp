@@ -1,5 +1,6 @@
 #include "findingsmodel.h"
 
+#include "plaintext.h"
 #include "sourcetext.h"
 
 #include <algorithm>
@@ -72,5 +73,5 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     const Judgement &shown = finding(index.row());
     if (role == Qt::DisplayRole)
         return QStringList{screenCaption(shown), shown.what, shown.reading, shown.reference}.join(u'\t');
-    return role == Qt::ToolTipRole ? sourceText(shown.source, m_language) : QVariant();
+    return role == Qt::ToolTipRole ? plainToolTip(sourceText(shown.source, m_language)) : QVariant();
 }

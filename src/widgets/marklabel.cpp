@@ -8,7 +8,7 @@
 static constexpr int kGlyphWidth = 14;
 static constexpr int kHeight = 20;
 
-MarkLabel::MarkLabel(Verdict verdict, QWidget *parent) : QLabel(parent), m_verdict(verdict)
+MarkLabel::MarkLabel(Verdict verdict, QWidget *parent) : PlainLabel({}, parent), m_verdict(verdict)
 {
     QFont strong = textFont(TextSize::Small);
     strong.setBold(true);

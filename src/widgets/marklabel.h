@@ -1,11 +1,10 @@
 #pragma once
 
+#include "plainlabel.h"
 #include "verdict.h"
 
-#include <QLabel>
-
 /// A mark beside a reading: the shape and the word of a verdict in its colour.
-class MarkLabel : public QLabel
+class MarkLabel : public PlainLabel
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "panelmodel.h"
 
 #include "glyph.h"
+#include "plaintext.h"
 #include "sourcetext.h"
 
 #include <QSet>
@@ -160,8 +161,8 @@ QVariant PanelModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(shown, column(index.column()));
     case Qt::ToolTipRole:
-        return column(index.column()).kind == ColumnKind::Drift ? driftTip(shown, m_language)
-                                                                : referenceTip(shown, m_language);
+        return plainToolTip(column(index.column()).kind == ColumnKind::Drift ? driftTip(shown, m_language)
+                                                                             : referenceTip(shown, m_language));
     case Qt::TextAlignmentRole:
         return static_cast<int>(column(index.column()).alignment());
     default:

@@ -1,6 +1,7 @@
 #include "readingform.h"
 
 #include "icons.h"
+#include "plainlabel.h"
 #include "theme.h"
 #include "verdictbadge.h"
 
@@ -66,7 +67,7 @@ void ReadingForm::layOut(const Parts &parts)
     auto *layout = pageColumn(this);
     layout->addLayout(headRow(parts.buttons));
     layout->addLayout(choiceRow(parts.choices));
-    layout->addWidget(m_hint = named(new QLabel, u"lbDica"_s));
+    layout->addWidget(m_hint = named(new PlainLabel, u"lbDica"_s));
     keepPlace(*m_hint);
     layout->addWidget(parts.body, 1);
     layout->addLayout(noteRow(parts));
@@ -75,7 +76,7 @@ void ReadingForm::layOut(const Parts &parts)
 
 QHBoxLayout *ReadingForm::headRow(const QList<QWidget *> &buttons)
 {
-    m_title = named(new QLabel, u"lbTitulo"_s);
+    m_title = named(new PlainLabel, u"lbTitulo"_s);
     m_title->setWordWrap(true); // rather two lines than a window that must grow
     m_badge = named(new VerdictBadge, u"Veredito"_s);
     auto *row = controlRow();
@@ -90,10 +91,10 @@ QHBoxLayout *ReadingForm::headRow(const QList<QWidget *> &buttons)
 
 QHBoxLayout *ReadingForm::noteRow(const Parts &parts)
 {
-    auto *note = named(new QLabel, parts.note);
+    auto *note = named(new PlainLabel, parts.note);
     note->setWordWrap(true);
     note->setFont(textFont(TextSize::Small));
-    m_lbBarra = new QLabel;
+    m_lbBarra = new PlainLabel;
     m_barra = named(new QProgressBar, u"Barra"_s);
     m_barra->setMinimumWidth(kBarWidth);
     auto *frame = named(new QWidget, u"FrameVCore"_s);

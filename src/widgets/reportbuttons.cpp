@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "icons.h"
+#include "plaintext.h"
 #include "readingform.h"
 #include "savedialog.h"
 
@@ -34,7 +35,7 @@ ReportButtons::ReportButtons(Screen &screen, QWidget *parent)
 static void label(QToolButton &button, QStringView icon, const QString &text)
 {
     button.setIcon(lineIcon(icon));
-    button.setToolTip(text);
+    button.setToolTip(plainToolTip(text));
     button.setAccessibleName(text);
 }
 

@@ -6,7 +6,7 @@
 
 static constexpr int kHeight = 26;
 
-ValueField::ValueField(const QString &sample, QWidget *parent) : QLabel(parent)
+ValueField::ValueField(const QString &sample, QWidget *parent) : PlainLabel({}, parent)
 {
     setFont(tabularFont());
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -23,5 +23,5 @@ void ValueField::paintEvent(QPaintEvent *event)
     painter.setPen(theme.border);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     painter.end();
-    QLabel::paintEvent(event);
+    PlainLabel::paintEvent(event);
 }

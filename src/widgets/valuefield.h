@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QLabel>
+#include "plainlabel.h"
 
 /// A reading in a frame, right-aligned in the face of numbers; the painter colours it.
-class ValueField : public QLabel
+class ValueField : public PlainLabel
 {
     Q_OBJECT
 

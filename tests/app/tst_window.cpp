@@ -1,17 +1,13 @@
 #include "columns.h"
-#include "connectionbar.h"
 #include "findingslist.h"
-#include "inicial.h"
 #include "moduletable.h"
 #include "panelgrid.h"
-#include "portresolver.h"
 #include "screenform.h"
-#include "seeds.h"
-#include "serialport.h"
 #include "settings.h"
 #include "theme.h"
-#include "windowboxes.h"
+#include "windowbench.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
@@ -19,64 +15,21 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QWheelEvent>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-// A poll must be longer than the phone takes from the first byte to the prompt.
-constexpr Intervals kQuick{.validaPorta = 10ms, .fecha = 10ms, .poll = 200ms};
-
-/// The whole window over a store of its own; only what opens documents is left out.
-struct Bench
-{
-    Bench()
-    {
-        boxes.setParent(&window);
-        session.load();
-        window.show();
-        window.activateWindow();
-        (void)QTest::qWaitForWindowActive(&window);
-    }
-
-    template <typename T>
-    T *control(const QString &name) const
-    {
-        return window.findChild<T *>(name);
-    }
-    void click(const QString &name) const { QTest::mouseClick(control<QWidget>(name), Qt::LeftButton); }
-    void connectTo(const QString &address) const
-    {
-        window.connectionBar().setPort(address);
-        click(u"Botoes(1)"_s);
-    }
-    QMessageBox *box() const { return window.findChild<QMessageBox *>(); }
-    QString front() const { return control<QTabWidget>(u"Abas"_s)->currentWidget()->objectName(); }
-
-    QTemporaryDir home;
-    QString path = made(home.filePath(u"Config.pmx"_s));
-    SerialPort port;
-    PortResolver resolver{0};
-    StoreQueue store{path, StoreQueue::Waiting::ByTimer};
-    WindowBoxes boxes{[this] { return session.language(); }};
-    Session session{{.port = port,
-                     .store = store,
-                     .boxes = boxes,
-                     .deviceFor = [this](const PortAddress &address) { return resolver.deviceFor(address); },
-                     .intervals = kQuick}};
-    ExchangeLog log{home.filePath(u"log"_s)};
-    Inicial window{{session, log, [] { return QList<PortEntry>(); }}};
-
-private:
-    static QString made(const QString &path) { return createStore(path) ? path : QString(); }
-};
 
 QString captionOf(const QWidget &widget)
 {
@@ -336,6 +289,89 @@ private slots:
         QTest::keyClick(host, Qt::Key_Return);
         QTRY_VERIFY(!bench.control<QLineEdit>(u"txtServico"_s));
         QCOMPARE(stored(u"report-host"_s), u"https://r.example/"_s);
+    }
+
+    /// A wheel that passes, and keys after the focus fell to them, choose nothing.
+    void choosersKeepTheirChoice()
+    {
+        Bench bench;
+        for (const Module &module : modules())
+            bench.window.openScreen(module.name);
+        const auto values = [&bench] {
+            QStringList all;
+            for (const char *property : {"currentText", "value"})
+                for (const QWidget *widget : bench.window.findChildren<QWidget *>())
+                    if (const QVariant value = widget->property(property); value.isValid())
+                        all.append(widget->objectName() + u' ' + value.toString());
+            return all;
+        };
+        const QStringList before = values();
+        int choosers = 0;
+        for (auto *widget : bench.window.findChildren<QWidget *>()) {
+            if (!qobject_cast<QComboBox *>(widget) && !qobject_cast<QAbstractSpinBox *>(widget) &&
+                !qobject_cast<QSlider *>(widget))
+                continue;
+            ++choosers;
+            QEvent polish(QEvent::Polish);
+            QApplication::sendEvent(widget, &polish);
+            QVERIFY2(widget->focusPolicy() != Qt::WheelFocus, qPrintable(widget->objectName()));
+            widget->clearFocus();
+            for (const int turn : {-120, 120, 120}) {
+                QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton,
+                                  Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(widget, &wheel);
+            }
+        }
+        QVERIFY(choosers > 10);
+        QCOMPARE(values(), before);
+    }
+
+    void focusThatFellChoosesNothing()
+    {
+        Bench bench;
+        auto *port = bench.control<QComboBox>(u"cbPortas"_s);
+        const auto *speed = bench.control<QComboBox>(u"ComboBox"_s);
+        port->setFocus();
+        QCOMPARE(QApplication::focusWidget(), port);
+        port->setEnabled(false);
+        bench.control<QToolButton>(u"imgAtualizar"_s)->setEnabled(false);
+        const QString chosen = speed->currentText();
+        for (const auto key : {Qt::Key_Down, Qt::Key_2, Qt::Key_Up})
+            QTest::keyClick(bench.window.windowHandle(), key);
+        QCOMPARE(speed->currentText(), chosen);
+        QVERIFY(!qobject_cast<QComboBox *>(QApplication::focusWidget()));
+    }
+
+    void comesBackOnTheScreen()
+    {
+        Bench bench;
+        QWidget large;
+        large.setGeometry(4000, 3000, 5000, 4000);
+        bench.window.restore({large.saveGeometry(), {}, {}, {}});
+        const QRect room = bench.window.screen()->availableGeometry();
+        const QSize least = bench.window.minimumSizeHint();
+        QCOMPARE(bench.window.pos(), room.topLeft());
+        QCOMPARE(bench.window.size(), room.size().expandedTo(least));
+        bench.window.setGeometry(-5000, -5000, 5000, 300);
+        bench.window.restore({bench.window.saveGeometry(), {}, {}, {}});
+        QCOMPARE(bench.window.x(), room.x());
+        QVERIFY(room.contains(bench.window.pos()));
+        QCOMPARE(bench.window.width(), std::max(room.width(), least.width()));
+    }
+
+    void themeIsRemembered()
+    {
+        Bench bench;
+        QSignalSpy chosen(&bench.window, &Inicial::themeChosen);
+        bench.control<QAction>(u"Tema(2)"_s)->trigger();
+        QCOMPARE(chosen.size(), 1);
+        const QString file = bench.home.filePath(u"window.ini"_s);
+        QVERIFY(keepWindowState(bench.window.state(), file));
+        QCOMPARE(windowStateFrom(file), bench.window.state());
+        QCOMPARE(windowStateFrom(file).theme, ThemeChoice::Dark);
+        bench.window.restore(windowStateFrom(bench.home.filePath(u"none"_s)));
+        QCOMPARE(bench.window.state().theme, ThemeChoice::Desktop);
+        applyTheme(ThemeChoice::Light);
     }
 
     void tabsCloseByKey()

@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-static QString contents(const QString &path)
+QString contents(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();

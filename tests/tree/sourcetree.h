@@ -33,6 +33,9 @@ struct SourceTree
     QString ownerOfHeader(const QString &header) const;
 };
 
+/// A file as text; empty when there is none.
+QString contents(const QString &path);
+
 /// The targets that a CMake list declares.
 QList<Target> targetsIn(const QString &cmakeList, const QString &folder);
 

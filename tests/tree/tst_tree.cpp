@@ -92,6 +92,39 @@ bool namesWidgets(const QString &header, const QSet<QString> &widgets)
     return header.startsWith(u"QtWidgets") || widgets.contains(header);
 }
 
+/// What would take a text for markup, and who alone may use it.
+struct MarkupRule
+{
+    QLatin1StringView pattern;
+    QLatin1StringView keeper;
+};
+
+constexpr MarkupRule kMarkup[] = {
+    {R"(new QLabel\b|public QLabel\b|\bQLabel \w+[;({])"_L1, "widgets/plainlabel."_L1},
+    {R"(new QMessageBox\b|public QMessageBox\b|QMessageBox::(information|warning|critical|question|about)\()"_L1,
+     "widgets/plaintext."_L1},
+    {R"(set\w*ToolTip\((?:\w+, )?+(?!(plain|tabular)ToolTip\())"_L1, ""_L1},
+    {"QToolTip::showText"_L1, "widgets/plainlabel."_L1},
+    {"new QInputDialog"_L1, "shell/windowboxes."_L1},
+    {R"((set|insert|append)Html\(|QTextBrowser|QErrorMessage|[wW]hatsThis|Qt::(RichText|AutoText|MarkdownText))"_L1,
+     ""_L1},
+    {"setMarkdown"_L1, "report/pdffile."_L1}, // of the guides that come with the program
+};
+
+/// The parts of a source that break the rules for texts from elsewhere.
+QStringList markupIn(const QString &file, const QString &source)
+{
+    QStringList found;
+    for (const MarkupRule &rule : kMarkup) {
+        const auto match = QRegularExpression(rule.pattern).match(source);
+        if (match.hasMatch() && (rule.keeper.isEmpty() || !file.startsWith(rule.keeper)))
+            found << match.captured();
+    }
+    if (source.contains("ToolTipRole"_L1) && !source.contains("ToolTip("_L1))
+        found << u"ToolTipRole"_s;
+    return found;
+}
+
 } // namespace
 
 /// The rule of the house read from the sources: a layer looks only at what stands before it.
@@ -189,6 +222,23 @@ private slots:
         for (const Include &include : std::as_const(m_tree.includes)) {
             if (!mayShow(include.target) && namesWidgets(include.header, m_widgets))
                 m_faults << u"%1 of %2 includes <%3>"_s.arg(include.file, include.target, include.header);
+        }
+    }
+
+    void markupIsFound()
+    {
+        QCOMPARE(markupIn(u"a.cpp"_s, u"auto *x = new QLabel(text);"_s), QStringList(u"new QLabel"_s));
+        QCOMPARE(markupIn(u"a.cpp"_s, u"x->setToolTip(text);"_s), QStringList(u"setToolTip("_s));
+        QCOMPARE(markupIn(u"a.cpp"_s, u"setTabToolTip(i, text);"_s), QStringList(u"setTabToolTip(i, "_s));
+        QCOMPARE(markupIn(u"a.cpp"_s, u"setTabToolTip(i, plainToolTip(x)); const QLabel *y;"_s), QStringList());
+    }
+
+    void textsAreShownAsLetters()
+    {
+        for (const QString &file : std::as_const(m_tree.files)) {
+            const QString source = contents(QStringLiteral(PRELT_SOURCE_DIR "/src/") + file);
+            for (const QString &part : markupIn(file, source))
+                m_faults << u"%1 may show markup: %2"_s.arg(file, part);
         }
     }
 
