@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modelerrand.h"
+#include "reportaddress.h"
 #include "screen.h"
 
 /// Runs one screen's reading, on a phone or on a saved reply, and prints what it gave.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "notice.h"
-#include "reportaddress.h"
+#include "reportsheet.h"
 #include "verdict.h"
 
 #include <QList>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documentmaker.h"
+#include "reportaddress.h"
 #include "screen.h"
 
 /// Hands the last reading of a screen to the report service, by an address that is opened. While no service is set up

@@ -38,6 +38,7 @@ constexpr int kDetailsShare = 3;
 Journal::Journal(Session &session, QWidget *parent)
     : ScreenForm(std::make_unique<JournalScreen>(session), parent),
       m_journal(static_cast<JournalScreen &>(screen())),
+      m_documents(session),
       m_surveyRows(kSurveyColumns),
       m_list(named(new PanelGrid(m_surveyRows), u"DBGrid1"_s)),
       m_pages(new JournalPages(m_journal))
@@ -129,7 +130,9 @@ void Journal::connectButtons()
 {
     connect(m_btComparar, &QPushButton::clicked, &m_journal, &JournalScreen::btComparar_Click);
     connect(m_btTroca, &QPushButton::clicked, &m_journal, &JournalScreen::btTroca_Click);
-    connect(m_btImprimir, &QPushButton::clicked, &m_journal, &JournalScreen::btImprimir_Click);
+    connect(m_btImprimir, &QPushButton::clicked, this, &Journal::btImprimir_Click);
+    connect(&m_documents, &DocumentMaker::busyChanged, &m_journal,
+            [this] { m_journal.showDocumentWork(m_documents.isBusy()); });
     connect(m_btCsv, &QPushButton::clicked, m_pages, &JournalPages::exportCsv);
     connect(m_btJson, &QPushButton::clicked, this, &Journal::btJSON_Click);
     connect(m_btExcluir, &QPushButton::clicked, this, &ScreenForm::keepingAsked);
@@ -191,6 +194,13 @@ void Journal::paintNote()
 {
     if (m_note->text() != m_journal.note())
         m_note->setText(m_journal.note());
+}
+
+void Journal::btImprimir_Click()
+{
+    if (const std::optional<ReportDocument> report = m_journal.report())
+        m_documents.make(*report, DocumentMaker::freePath(DocumentMaker::folder(), m_journal.fileName()),
+                         DocumentMaker::Afterwards::Open);
 }
 
 void Journal::btJSON_Click()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documentmaker.h"
 #include "journalscreen.h"
 #include "panelmodel.h"
 #include "screenform.h"
@@ -35,8 +36,11 @@ private:
     void paintChoice();
     void paintNote();
     void btJSON_Click();
+    /// Writes the report anew, where documents are kept, and opens it.
+    void btImprimir_Click();
 
     JournalScreen &m_journal;
+    DocumentMaker m_documents;
     PanelModel m_surveyRows;
     PanelGrid *m_list;
     JournalPages *m_pages;

@@ -11,13 +11,11 @@ using namespace std::chrono_literals;
 /// A long journal is not searched for every letter of a word.
 static constexpr auto kTypingPause = 200ms;
 
-JournalScreen::JournalScreen(Session &session, QObject *parent)
-    : Screen(session, u"Journal"_s, {}, parent), m_documents(session)
+JournalScreen::JournalScreen(Session &session, QObject *parent) : Screen(session, u"Journal"_s, {}, parent)
 {
     connect(&session, &Session::languageChanged, this, &JournalScreen::rebuild);
     m_timerBusca.setInterval(kTypingPause);
     connect(&m_timerBusca, &QTimer::timeout, this, &JournalScreen::TimerBusca_Timer);
-    connect(&m_documents, &DocumentMaker::busyChanged, this, &JournalScreen::rebuild);
 }
 
 void JournalScreen::setShown(bool shown)
@@ -172,15 +170,15 @@ void JournalScreen::forget(const QString &id)
         [this](const Done &) { load(); });
 }
 
-void JournalScreen::btImprimir_Click()
+std::optional<ReportDocument> JournalScreen::report() const
 {
-    print(DocumentMaker::freePath(DocumentMaker::folder(), fileName()));
+    return isOne() ? std::optional(reportOf(m_entries[0], session().language())) : std::nullopt;
 }
 
-void JournalScreen::print(const QString &path)
+void JournalScreen::showDocumentWork(bool isBusy)
 {
-    if (isOne())
-        m_documents.make(reportOf(m_entries[0], session().language()), path, DocumentMaker::Afterwards::Open);
+    m_isDocumentInWork = isBusy;
+    rebuild();
 }
 
 QString JournalScreen::exchange() const

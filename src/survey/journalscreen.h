@@ -1,8 +1,8 @@
 #pragma once
 
-#include "documentmaker.h"
 #include "journal.h"
 #include "journalcomparison.h"
+#include "reportdocument.h"
 #include "screen.h"
 
 #include <QMap>
@@ -35,9 +35,10 @@ public:
     void keepNotes();
     /// Forgets the survey, after a question.
     void btExcluir_Click();
-    /// Writes the report anew, where documents are kept, and opens it.
-    void btImprimir_Click();
-    void print(const QString &path);
+    /// The report of the one survey that is shown, anew.
+    std::optional<ReportDocument> report() const;
+    /// Whether a document is in work: one at a time.
+    void showDocumentWork(bool isBusy);
 
     /// As they are listed, the newest first.
     const QList<JournalSurvey> &surveys() const { return m_surveys; }
@@ -91,5 +92,5 @@ private:
     QList<ComparedOutput> m_outputs;
     QMap<QString, QString> m_typed; ///< notes that are not in the store yet
     bool m_isExchangeShown = false;
-    DocumentMaker m_documents;
+    bool m_isDocumentInWork = false;
 };

@@ -75,7 +75,7 @@ QMap<QString, Field> JournalScreen::state() const
         {u"Veredito"_s, {.visible = isOne()}},
         {u"btComparar"_s, {.enabled = isOne(), .checked = isHeld}},
         {u"btTroca"_s, {.enabled = isOne(), .checked = m_isExchangeShown}},
-        {u"btImprimir"_s, {.enabled = isOne() && !m_documents.isBusy()}},
+        {u"btImprimir"_s, {.enabled = isOne() && !m_isDocumentInWork}},
         {u"btCSV"_s, {.enabled = isAny}},
         {u"btJSON"_s, {.enabled = isAny}},
         {u"btExcluir"_s, {.enabled = isOne()}},

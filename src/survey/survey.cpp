@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 Survey::Survey(Session &session, QWidget *parent)
     : ReadingForm(std::make_unique<SurveyScreen>(session), parent),
       m_survey(static_cast<SurveyScreen &>(screen())),
+      m_documents(session),
       m_rows(kFindingColumns),
       m_grid(named(new PanelGrid(m_rows), u"DBGrid1"_s)),
       m_syscfg(named(new QCheckBox, u"OpSyscfg"_s)),
@@ -67,6 +68,8 @@ void Survey::connectControls()
     connect(m_grid, &PanelGrid::doubleClicked, &m_survey,
             [this](const QModelIndex &place) { m_survey.DBGrid1_Click(place.row()); });
     connect(m_grid, &PanelGrid::exportFailed, this, &Survey::tellUnwritten);
+    connect(&m_documents, &DocumentMaker::busyChanged, &m_survey,
+            [this] { m_survey.showDocumentWork(m_documents.isBusy()); });
     connect(&m_survey, &SurveyScreen::journalFailed, this,
             [this](const Trouble &why) { m_survey.session().refuse(why.what); });
 }
@@ -74,8 +77,9 @@ void Survey::connectControls()
 void Survey::btPDF_Click()
 {
     const QString name = u"%1 %2"_s.arg(text(u"Vistoria"), m_survey.run().model);
-    askForFile(this, {text(u"Salvar PDF"), name, FileKind::Pdf},
-               [this](const QString &path) { m_survey.savePdf(path); });
+    askForFile(this, {text(u"Salvar PDF"), name, FileKind::Pdf}, [this](const QString &path) {
+        m_documents.make(m_survey.report(), path, DocumentMaker::Afterwards::Tell);
+    });
 }
 
 void Survey::goTo(const QString &what)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documentmaker.h"
 #include "panelmodel.h"
 #include "readingform.h"
 
@@ -29,6 +30,7 @@ private:
     void btPDF_Click();
 
     SurveyScreen &m_survey;
+    DocumentMaker m_documents;
     PanelModel m_rows;
     PanelGrid *m_grid;
     QCheckBox *m_syscfg;

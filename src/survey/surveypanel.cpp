@@ -163,7 +163,7 @@ QMap<QString, Field> SurveyScreen::state() const
     return {
         {u"btIniciar"_s, {.text = caption(u"Iniciar vistoria") + "  F5"_L1, .enabled = !m_isRunning}},
         {u"btCancelar"_s, {.text = caption(u"Cancelar"), .visible = m_isRunning}},
-        {u"btPDF"_s, {.enabled = hasReading() && !m_documents.isBusy()}},
+        {u"btPDF"_s, {.enabled = hasReading() && !m_isDocumentInWork}},
         {u"OpSyscfg"_s, {.enabled = !m_isRunning, .checked = m_extras.testFlag(SurveyExtra::Syscfg)}},
         {u"OpMemoria"_s, {.enabled = !m_isRunning, .checked = m_extras.testFlag(SurveyExtra::Memory)}},
         {u"OpFalhas"_s, {.checked = m_filter == Filter::Faults}},

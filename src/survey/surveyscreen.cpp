@@ -17,13 +17,11 @@ static constexpr auto kPause = 1000ms;
 
 SurveyScreen::SurveyScreen(Session &session, QObject *parent)
     : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent),
-      m_journal(session.store()),
-      m_documents(session)
+      m_journal(session.store())
 {
     m_timerPasso.setInterval(kTick);
     connect(&m_timerPasso, &QTimer::timeout, this, &SurveyScreen::TimerPasso_Timer);
     connect(&m_journal, &SurveyJournal::failed, this, &SurveyScreen::journalFailed);
-    connect(&m_documents, &DocumentMaker::busyChanged, this, &SurveyScreen::showProgress);
     connect(&session, &Session::readingsCleared, this, &SurveyScreen::forget);
     connect(&session, &Session::languageChanged, this, &SurveyScreen::rebuild);
     connect(&session, &Session::storeFailed, this, [this] {
@@ -251,9 +249,10 @@ ReportDocument SurveyScreen::report() const
     return reportOf(m_run, m_findings, {m_name, m_note}, session().language());
 }
 
-void SurveyScreen::savePdf(const QString &path)
+void SurveyScreen::showDocumentWork(bool isBusy)
 {
-    m_documents.make(report(), path, DocumentMaker::Afterwards::Tell);
+    m_isDocumentInWork = isBusy;
+    showProgress();
 }
 
 SurveyPace SurveyScreen::pace() const

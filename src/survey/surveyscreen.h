@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documentmaker.h"
+#include "reportdocument.h"
 #include "screen.h"
 #include "surveyjournal.h"
 #include "surveypace.h"
@@ -53,8 +53,8 @@ public:
     void chooseName(const QString &name) { m_name = name; }
     /// What a customer is handed.
     ReportDocument report() const;
-    /// Writes it, away from the interface.
-    void savePdf(const QString &path);
+    /// Whether a document is in work: one at a time.
+    void showDocumentWork(bool isBusy);
     /// A row of the table was activated: the screen that shows it is opened.
     void DBGrid1_Click(qsizetype row);
 
@@ -113,7 +113,7 @@ private:
     bool m_isCancelled = false;
     std::chrono::milliseconds m_rest{0};
     int m_repeats = 0; ///< of the question that is asked now
-    DocumentMaker m_documents;
+    bool m_isDocumentInWork = false;
     QElapsedTimer m_sinceAsked;
     QTimer m_timerPasso;
 };

@@ -1,5 +1,6 @@
 #include "buckldoscreen.h"
 #include "railbench.h"
+#include "reportexport.h"
 #include "vcoresscreen.h"
 
 #include <QTest>
@@ -68,4 +69,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestRailReport)
+#include "reportaddress.h"
 #include "tst_railreport.moc"

@@ -1,4 +1,5 @@
 #include "columns.h"
+#include "documentmaker.h"
 #include "journalexport.h"
 #include "journalform.h"
 #include "journalpanel.h"
@@ -264,10 +265,14 @@ private slots:
     {
         JournalBench bench;
         bench.select(1);
-        bench.screen().print(bench.folder.filePath(u"nowhere/survey.pdf"_s));
+        DocumentMaker maker(*bench.session);
+        const auto print = [&](const QString &path) {
+            maker.make(*bench.screen().report(), path, DocumentMaker::Afterwards::Open);
+        };
+        print(bench.folder.filePath(u"nowhere/survey.pdf"_s));
         QTRY_COMPARE(bench.boxes.keys, QStringList{u"FILE_NOT_WRITTEN"_s});
         const QString path = bench.folder.filePath(u"survey.pdf"_s);
-        bench.screen().print(path);
+        print(path);
         QTRY_COMPARE(bench.opened.size(), 1);
         QVERIFY(bench.opened.first().endsWith(u"/survey.pdf"_s));
         QFile file(path);
