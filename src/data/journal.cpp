@@ -162,9 +162,6 @@ Result<Done> setJournalNote(Store &store, const QString &id, const QString &note
 
 Result<QStringList> surveysOf(const Store &store, const QString &outcome)
 {
-    const Result<bool> there = store.hasTable(kLastTable);
-    if (!there || !*there)
-        return there ? Result(QStringList()) : there.trouble();
     return rowsOf<QString>(store, kSurveysOfOutcome, {{u":outcome"_s, outcome}},
                            [](const QSqlQuery &row) { return text(row, u"Id"); });
 }
