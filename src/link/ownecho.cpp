@@ -2,11 +2,7 @@
 
 #include "replygatherer.h"
 
-static bool beginsAnswer(QStringView before)
-{
-    const QStringView text = before.trimmed();
-    return text.isEmpty() || text.endsWith(QLatin1StringView(kPrompt));
-}
+#include <optional>
 
 static bool endsLine(QStringView behind)
 {
@@ -15,18 +11,27 @@ static bool endsLine(QStringView behind)
     return behind.isEmpty() || behind.front() == u'\r' || behind.front() == u'\n';
 }
 
+/// Where the line stands at this place, but for white space before it.
+static std::optional<qsizetype> lineAt(QStringView text, qsizetype place, QStringView line)
+{
+    while (place < text.size() && text[place].isSpace())
+        ++place;
+    const QStringView rest = text.sliced(place);
+    return rest.startsWith(line) && endsLine(rest.sliced(line.size())) ? std::optional(place) : std::nullopt;
+}
+
 OwnEcho ownEcho(QStringView gathered, QStringView command)
 {
+    const QLatin1StringView prompt(kPrompt);
     const QStringView line = command.trimmed();
     if (line.isEmpty())
         return {};
-    for (qsizetype end = gathered.size(); end > 0;) {
-        const qsizetype at = gathered.first(end).lastIndexOf(line);
-        if (at < 0)
-            break;
-        if (beginsAnswer(gathered.first(at)) && endsLine(gathered.sliced(at + line.size())))
-            return {true, at};
-        end = at + line.size() - 1;
+    for (qsizetype end = gathered.size();;) {
+        const qsizetype before = gathered.first(end).lastIndexOf(prompt);
+        if (const auto at = lineAt(gathered, before < 0 ? 0 : before + prompt.size(), line))
+            return {true, *at};
+        if (before < 0)
+            return {};
+        end = before;
     }
-    return {};
 }

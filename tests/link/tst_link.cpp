@@ -75,6 +75,7 @@ private slots:
             QCOMPARE(echo.isFound ? echo.begin : -1, begin);
         }
         QVERIFY(!ownEcho(gathered, {}).isFound);
+        QVERIFY(ownEcho(u"x\r\nxxx", u"x").isFound && !ownEcho(u"yx", u"x").isFound); // a letter that ends the text
     }
 
     void lineCarriesLatin1Alone()

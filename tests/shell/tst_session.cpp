@@ -71,7 +71,8 @@ private slots:
         for (int tick = 1; tick <= 10 && !bench.session.isReady(); ++tick)
             bench.session.TimerValidaPorta_Timer();
         QCOMPARE(bench.session.isReady(), accepted);
-        QCOMPARE(bench.log, accepted ? QStringList({u"choose"_s, u"settled"_s}) : QStringList());
+        QCOMPARE(bench.log,
+                 accepted ? QStringList({u"PHONE_WITHOUT_ECHO"_s, u"choose"_s, u"settled"_s}) : QStringList());
         if (accepted)
             return;
         bench.session.TimerValidaPorta_Timer();
