@@ -1,15 +1,16 @@
 #include "displayguard.h"
 #include "home.h"
 #include "icons.h"
+#include "ownfolders.h"
 #include "startup.h"
 #include "stopsignals.h"
-#include "storeinspection.h"
+#include "storegate.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QSplashScreen>
 
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +39,14 @@ static std::unique_ptr<QApplication> application(int &argc, char **argv)
     return std::make_unique<QApplication>(argc, argv);
 }
 
+static void showNoStore(const QString &path, const Trouble &trouble)
+{
+    if (trouble.what.key == "STORE_MISSING"_L1)
+        showStoreMissing(path);
+    else
+        showStoreRefused(trouble);
+}
+
 int main(int argc, char **argv)
 {
     if (!hasDisplay())
@@ -53,23 +62,22 @@ int main(int argc, char **argv)
     showSplash(splash);
 
     const QString store = configStore(homeFolder(options.home));
-    if (!QFileInfo::exists(store)) {
+    keepFoldersToOwner(options.home);
+    StoreGate gate(store);
+    std::optional<Startup> startup;
+    int code = 0;
+    QObject::connect(&gate, &StoreGate::opened, app.get(), [&] {
+        startup.emplace(options);
+        applyStyleSheet(*app);
+        startup->begin();
         splash.close();
-        showStoreMissing(store);
-        QApplication::exec();
-        return kNoStore;
-    }
-    // A store of a later version can be read; that it is not written is told with the first thing to be kept.
-    const Result<Done> sound = inspectStore(store, StoreRole::Reference, Depth::Quick);
-    if (!sound && sound.trouble().what.key != "STORE_NEWER"_L1) {
-        splash.close();
-        showStoreRefused(sound.trouble());
-        QApplication::exec();
-        return kNoStore;
-    }
-    Startup startup(options);
-    applyStyleSheet(*app);
-    startup.begin();
-    splash.close();
-    return QApplication::exec();
+    });
+    QObject::connect(&gate, &StoreGate::refused, app.get(), [&](const Trouble &trouble) {
+        code = kNoStore;
+        showNoStore(store, trouble);
+        splash.close(); // the program ends with its last window
+    });
+    gate.TimerStore_Timer();
+    const int ended = QApplication::exec();
+    return code != 0 ? code : ended;
 }

@@ -1,10 +1,12 @@
 #include "startup.h"
 
+#include "acceptedaddress.h"
 #include "backups.h"
 #include "catalogue.h"
 #include "connectionbar.h"
 #include "home.h"
 #include "plaintext.h"
+#include "settingkeys.h"
 #include "settings.h"
 #include "surveyjournal.h"
 #include "systemopener.h"
@@ -80,8 +82,12 @@ void Startup::keepLayout()
 
 void Startup::keepBackup()
 {
-    if (const Result<bool> kept = rollBackups(m_store.path()); !kept)
-        m_window.showNotice(kept.trouble());
+    m_store.run<bool>( // a locked store is tried again
+        Store::Access::Read, [path = m_store.path()](Store &) { return rollBackups(path); }, &m_window,
+        [this](const Result<bool> &kept) {
+            if (!kept)
+                m_window.showNotice(kept.trouble());
+        });
 }
 
 /// Without the model there is nothing to read by: the technician is asked for it first.
@@ -101,8 +107,13 @@ void Startup::probeInternet()
     QObject::connect(&m_reachability, &Reachability::unreachable, &m_window,
                      [this] { m_boxes.message({{u"MSG_INTERNET_GERAL"_s}}); });
     m_session.withStore<QString>(
-        Store::Access::Read, [](Store &store) { return setting(store, u"probe-address"_s); }, &m_window,
-        [this](const QString &address) { m_reachability.probe(address); });
+        Store::Access::Read, [](Store &store) { return checkedSetting(store, u"probe-address"_s); }, &m_window,
+        [this](const QString &address) {
+            if (address.isEmpty() || isAcceptedHere(address))
+                m_reachability.probe(address);
+            else
+                m_session.refuse({u"PROBE_NOT_ACCEPTED"_s, {address}});
+        });
 }
 
 void Startup::lookAround()

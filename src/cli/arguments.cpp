@@ -55,14 +55,19 @@ void addModel(CLI::App &app, CommonOptions &common, const char *help)
     addText(app, "--model", common.model, help)->check(CLI::IsMember(modelChoices()));
 }
 
-CLI::Option *addPort(CLI::App &app, CommonOptions &common)
+void addTimeout(CLI::App &app, CommonOptions &common)
 {
-    CLI::Option *port = addText(app, "--port", common.port, "COMn, n, a device path, or sim:MODEL[,fault...]");
-    port->required();
     app.add_option_function<int>(
            "--timeout", [&common](int seconds) { common.timeout = std::chrono::seconds(seconds); },
            "give up after so many seconds")
         ->check(CLI::Range(1, kLongestTimeoutSeconds, "seconds"));
+}
+
+CLI::Option *addPort(CLI::App &app, CommonOptions &common)
+{
+    CLI::Option *port = addText(app, "--port", common.port, "COMn, n, a device path, or sim:MODEL[,fault...]");
+    port->required();
+    addTimeout(app, common);
     return port;
 }
 
@@ -262,6 +267,7 @@ Commands addCommands(CLI::App &app, Arguments &arguments)
         addModel(screen, arguments.common, "model of the phone");
         screen.get_option("--model")->required();
         addReply(screen, arguments.screen.replyFile)->required();
+        addTimeout(screen, arguments.common);
     });
 
     CLI::App *record = addRecord(app, arguments);

@@ -1,7 +1,9 @@
 #include "arguments.h"
 #include "consoleerrand.h"
 #include "detecterrand.h"
+#include "ownfolders.h"
 #include "readingerrand.h"
+#include "replyfile.h"
 #include "senderrand.h"
 #include "simerrand.h"
 #include "stopsignals.h"
@@ -10,7 +12,6 @@
 #include "terminal.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -31,17 +32,6 @@ static int runErrand(QCoreApplication &app, T &errand)
     return QCoreApplication::exec();
 }
 
-static std::optional<QByteArray> readReply(const QString &path)
-{
-    QFile file(path);
-    const bool open = path == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (open)
-        return file.readAll();
-    printError(u"prelt: --reply %1: %2. Name a file with the phone's bytes, or - for standard input."_s.arg(
-        path, file.errorString()));
-    return {};
-}
-
 /// On a phone, or on a saved reply where one is named.
 template <typename T, typename Options>
 static int runOnReply(QCoreApplication &app, const CommonOptions &common, const Options &options)
@@ -50,10 +40,10 @@ static int runOnReply(QCoreApplication &app, const CommonOptions &common, const 
         T errand(common, options);
         return runErrand(app, errand);
     }
-    const auto reply = readReply(options.replyFile);
-    if (!reply)
-        return static_cast<int>(ExitCode::Usage);
-    T errand(common, options, *reply);
+    const auto reply = readReply(options.replyFile, common.timeout);
+    if (const auto *code = std::get_if<ExitCode>(&reply))
+        return static_cast<int>(*code);
+    T errand(common, options, std::get<QByteArray>(reply));
     return runErrand(app, errand);
 }
 
@@ -126,5 +116,6 @@ int main(int argc, char **argv)
     const auto app = application(argc, argv, std::get<Arguments>(arguments));
     QCoreApplication::setApplicationName(u"tavimo-prelt"_s);
     QCoreApplication::setApplicationVersion(u"2.22"_s);
+    keepFoldersToOwner(std::get<Arguments>(arguments).common.home);
     return unlessUnwritten(runCommand(*app, std::get<Arguments>(arguments)));
 }

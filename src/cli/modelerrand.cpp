@@ -48,11 +48,12 @@ void ModelErrand::refuseWithoutModel()
     fail({{u"REFUSED_NO_MODEL"_s}, {{{}, {u"(--model NAME)"_s}}}}, ExitCode::Incomplete);
 }
 
-QString ModelErrand::stored(const QString &setting)
+QString ModelErrand::stored(const QString &name)
 {
+    const auto read = name == "logo"_L1 ? &namedSetting : &checkedSetting; // a report goes out without its logo
     QString value;
     session().withStore<QString>( // blocks: it is there when this returns
-        Store::Access::Read, [&setting](Store &store) { return namedSetting(store, setting); }, this,
+        Store::Access::Read, [&name, read](Store &store) { return read(store, name); }, this,
         [&value](const QString &text) { value = text; });
     return value;
 }

@@ -22,7 +22,7 @@ protected:
     virtual void begin() = 0;
     void refuseWithoutModel();
     /// What the store holds for a setting; empty when the store failed, which ended the errand.
-    QString stored(const QString &setting);
+    QString stored(const QString &name);
     /// Writes a report with the shop's logo. When it cannot be written, the errand has failed.
     void writePdf(ReportDocument report, const QString &path);
 

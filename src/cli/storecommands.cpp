@@ -1,5 +1,6 @@
 #include "storecommands.h"
 
+#include "acceptedaddress.h"
 #include "backups.h"
 #include "home.h"
 #include "json.h"
@@ -14,7 +15,6 @@
 #include "userimport.h"
 #include "visibletext.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -67,8 +67,6 @@ ExitCode told(const CommonOptions &options, const Notice &outcome, const QJsonOb
 ExitCode init(const CommonOptions &options, const QString & /*none*/, const QString & /*none*/)
 {
     const QString path = storeOf(options);
-    if (!QDir().mkpath(QFileInfo(path).path()))
-        return failed(options, {{u"STORE_FAILED"_s, {path, u"mkdir"_s}}});
     if (const Result<Done> made = createStore(path); !made)
         return failed(options, made.trouble());
     printOut(path + u'\n');
@@ -109,7 +107,7 @@ ExitCode check(const CommonOptions &options, const QString & /*none*/, const QSt
 // Not without a way back.
 ExitCode tidy(const CommonOptions &options, const QString & /*none*/, const QString & /*none*/)
 {
-    const Result<bool> backup = rollBackups(storeOf(options));
+    const Result<bool> backup = rollBackups(storeOf(options), kPatience);
     if (!backup)
         return failed(options, backup.trouble());
     Result<Store> store = opened(options, Store::Access::Write);
@@ -119,17 +117,11 @@ ExitCode tidy(const CommonOptions &options, const QString & /*none*/, const QStr
     return told(options, {u"STORE_TIDIED"_s, {QString::number(*removed)}}, {{u"removed"_s, *removed}});
 }
 
-QString datedBackup(const QString &path)
-{
-    const QString now = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
-    return backupFolder(path) + u"/Config-%1.pmx"_s.arg(now);
-}
-
 ExitCode backUp(const CommonOptions &options, const QString &file, const QString & /*none*/)
 {
     const QString path = storeOf(options);
-    const QString target = file.isEmpty() ? datedBackup(path) : file;
-    if (const Result<Done> made = backupStore(path, target); !made)
+    const QString target = file.isEmpty() ? freeBackupName(path) : file;
+    if (const Result<Done> made = backupStore(path, target, kPatience); !made)
         return failed(options, made.trouble());
     return told(options, {u"STORE_BACKED_UP"_s, {QDir::toNativeSeparators(target)}}, {{u"backup"_s, target}});
 }
@@ -139,7 +131,7 @@ ExitCode import(const CommonOptions &options, const QString &file, const QString
     Result<Store> store = opened(options, Store::Access::Write);
     if (!store)
         return failed(options, store.trouble());
-    if (const Result<bool> backup = rollBackups(storeOf(options)); !backup)
+    if (const Result<bool> backup = rollBackups(storeOf(options), kPatience); !backup)
         printError(oneLine(backup.trouble(), languageOf(options)));
     const Result<ImportSummary> took = importUserStore(*store, file);
     if (!took)
@@ -167,6 +159,8 @@ ExitCode set(const CommonOptions &options, const QString &key, const QString &va
     const Result<Done> done = store ? setNamedSetting(*store, key, value) : store.trouble();
     if (!done)
         return failed(options, done.trouble());
+    if (key == "probe-address"_L1)
+        acceptHere(value);
     if (options.json)
         printOut(document({{key, value}}));
     return ExitCode::Good;

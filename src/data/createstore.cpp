@@ -1,4 +1,5 @@
 #include "intoplace.h"
+#include "ownfiles.h"
 #include "queries.h"
 #include "seedfilling.h"
 #include "seeds.h"
@@ -46,21 +47,22 @@ Result<Done> build(const QString &emptyFile)
     return transaction->commit();
 }
 
-constexpr QFile::Permissions kForAllToRead = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
-
 } // namespace
 
 Result<Done> createStore(const QString &path)
 {
     const QFileInfo target(path);
-    if (target.exists() || target.isSymLink())
+    if (const std::optional<Trouble> broken = troubleWithPath(path))
+        return *broken;
+    if (target.exists())
         return storeTrouble(u"STORE_EXISTS"_s, path, {});
-    QDir().mkpath(target.absolutePath());
+    if (!makeOwnFolder(target.absolutePath()))
+        return storeTrouble(u"STORE_FAILED"_s, path, u"its folder cannot be made"_s);
     // Beside the target, to be on the same disk; removed when this function ends.
     QTemporaryFile made(target.absoluteFilePath() + u".XXXXXX"_s);
     if (!made.open())
         return storeTrouble(u"STORE_FAILED"_s, path, made.errorString());
-    made.setPermissions(kForAllToRead);
+    keepToOwner(made.fileName(), target.absolutePath());
     const QString name = made.fileName();
     made.close();
     if (const Result<Done> built = build(name); !built)

@@ -8,6 +8,16 @@
 
 using namespace Qt::StringLiterals;
 
+static QString defaultHome()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/tavimo-prelt"_s;
+}
+
+bool isHomeByDefault(const QString &given)
+{
+    return given.isEmpty() && qEnvironmentVariableIsEmpty("PRELT_HOME") && homeFolder() == defaultHome();
+}
+
 QString homeFolder(const QString &given)
 {
     for (const QString &folder : {given, qEnvironmentVariable("PRELT_HOME")})
@@ -16,7 +26,7 @@ QString homeFolder(const QString &given)
     const QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo::exists(configStore(beside)))
         return beside;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/tavimo-prelt"_s;
+    return defaultHome();
 }
 
 QString configStore(const QString &home)

@@ -6,6 +6,9 @@
 /// the user's data folder.
 QString homeFolder(const QString &given = {});
 
+/// Nobody named a folder: it is the one in the user's data folder.
+bool isHomeByDefault(const QString &given);
+
 /// The reference store in a folder.
 QString configStore(const QString &home);
 

@@ -2,6 +2,7 @@
 
 #include "backups.h"
 #include "intoplace.h"
+#include "ownfiles.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -29,7 +30,7 @@ static QString digestOf(const QString &path)
 Result<Done> keepLayout(const QString &path, int version)
 {
     const QString folder = backupFolder(path);
-    QDir().mkpath(folder);
+    makeOwnFolder(folder);
     const QTemporaryDir made(folder + u"/new-XXXXXX"_s);
     if (!made.isValid())
         return failed(folder, made.errorString());
@@ -44,6 +45,7 @@ Result<Done> keepLayout(const QString &path, int version)
     const QString name = u"%1/%2.layout%3-%4"_s.arg(folder, QFileInfo(path).fileName()).arg(version).arg(digest);
     if (QFile::exists(name))
         return Done{};
+    keepToOwner(copy, folder);
     const Result<Done> moved = moveIntoPlace(copy, name);
     return moved ? moved : failed(folder, moved.trouble().what.arguments.value(1));
 }

@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A store with every model and a thousand long recordings stays far below; a file beyond it would only fill the memory.
-constexpr qint64 kLargest = 256LL * 1024 * 1024;
-
 constexpr qsizetype kHead = 100;
 constexpr qsizetype kWriteVersionAt = 18;
 constexpr char kWriteAhead = 2;
@@ -29,8 +26,6 @@ std::optional<Trouble> troubleWithHead(const QString &path, const QByteArray &he
         return storeTrouble(u"STORE_FOREIGN"_s, path, u"the file is no store"_s);
     if (head.size() < kHead)
         return storeTrouble(u"STORE_DAMAGED"_s, path, u"the file is cut"_s);
-    if (QFileInfo(path).size() > kLargest)
-        return storeTrouble(u"STORE_FOREIGN"_s, path, u"the file is far too large for a store"_s);
     return {};
 }
 

@@ -205,6 +205,13 @@ Result<QString> namedSetting(const Store &store, const QString &name)
     return key ? read(store, *key) : Result<QString>(unknown(name));
 }
 
+Result<QString> checkedSetting(const Store &store, const QString &name)
+{
+    const Result<QString> value = namedSetting(store, name);
+    const std::optional<Trouble> wrong = value && !value->isEmpty() ? settingTrouble(name, *value) : std::nullopt;
+    return wrong ? *wrong : value;
+}
+
 std::optional<Trouble> settingTrouble(const QString &name, const QString &value)
 {
     const Key *key = keyNamed(name);

@@ -24,6 +24,10 @@ Result<QList<NamedSetting>> namedSettings(const Store &store);
 /// The value of one setting. Trouble: SETTING_UNKNOWN with the names that there are.
 Result<QString> namedSetting(const Store &store, const QString &name);
 
+/// The same, fit to be used: whatever a store from elsewhere brings along, it is SETTING_INVALID unless it could have
+/// been set.
+Result<QString> checkedSetting(const Store &store, const QString &name);
+
 /// What is wrong with a value, nothing when it is accepted. Trouble: as of `setNamedSetting`.
 std::optional<Trouble> settingTrouble(const QString &name, const QString &value);
 

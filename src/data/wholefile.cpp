@@ -8,11 +8,10 @@
 using namespace Qt::StringLiterals;
 
 /// The system's words; a disk that is full has none when it shows only as the last bytes are written out.
-static QString reasonOf(const QSaveFile &file, const QByteArray &document)
+static QString reasonOf(const QSaveFile &file, qint64 size)
 {
     const QStorageInfo disk(QFileInfo(file.fileName()).absolutePath());
-    const bool isFull =
-        file.error() != QFileDevice::OpenError && disk.isValid() && disk.bytesAvailable() < document.size();
+    const bool isFull = file.error() != QFileDevice::OpenError && disk.isValid() && disk.bytesAvailable() < size;
     return isFull ? u"No space left on device"_s : file.errorString();
 }
 
@@ -35,15 +34,38 @@ Result<Done> writeInto(const QByteArray &document, const QString &path)
 
 } // namespace
 
+static Result<Done> notWritten(QSaveFile &file, qint64 size)
+{
+    const QString reason = reasonOf(file, size);
+    file.cancelWriting();
+    return Trouble{{u"FILE_NOT_WRITTEN"_s, {file.fileName(), reason}}};
+}
+
 Result<Done> writeWhole(const QByteArray &document, const QString &path)
 {
     if (isStream(path))
         return writeInto(document, path);
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush();
-    if (isWritten && file.commit())
-        return Done{};
-    const QString reason = reasonOf(file, document);
-    file.cancelWriting();
-    return Trouble{{u"FILE_NOT_WRITTEN"_s, {path, reason}}};
+    return isWritten && file.commit() ? Result(Done{}) : notWritten(file, document.size());
+}
+
+static bool copyBlocks(QFile &from, QSaveFile &to)
+{
+    constexpr qint64 kBlock = 1 << 20;
+    while (!from.atEnd()) {
+        const QByteArray block = from.read(kBlock);
+        if (block.isEmpty() || to.write(block) != block.size())
+            return false;
+    }
+    return to.flush();
+}
+
+Result<Done> copyWhole(const QString &original, const QString &path)
+{
+    QFile from(original);
+    QSaveFile to(path);
+    const bool isWritten =
+        from.open(QIODevice::ReadOnly) && to.open(QIODevice::WriteOnly) && copyBlocks(from, to) && to.commit();
+    return isWritten ? Result(Done{}) : notWritten(to, from.size());
 }

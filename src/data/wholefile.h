@@ -8,3 +8,6 @@
 /// Writes a document to a file, whole or not at all; what was there before stays unless the new one is complete.
 /// Trouble: FILE_NOT_WRITTEN.
 Result<Done> writeWhole(const QByteArray &document, const QString &path);
+
+/// The same for a copy of a file.
+Result<Done> copyWhole(const QString &original, const QString &path);

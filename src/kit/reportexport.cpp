@@ -1,6 +1,7 @@
 #include "reportexport.h"
 
 #include "catalogue.h"
+#include "settingkeys.h"
 #include "settings.h"
 
 #include <QDateTime>
@@ -79,7 +80,7 @@ void ReportExport::sendOrMake(const Order &order)
     Session &session = m_screen.session();
     session.keep([name = order.head.name](Store &store) { return setTechnicianName(store, name); });
     session.withStore<QString>(
-        Store::Access::Read, [](Store &store) { return setting(store, u"report-host"_s); }, this,
+        Store::Access::Read, [](Store &store) { return checkedSetting(store, u"report-host"_s); }, this,
         [this, &session, order](const QString &host) {
             if (host.isEmpty()) {
                 m_maker.make(reportDocument(order.panel, order.head),

@@ -1,5 +1,7 @@
 #include "exchangefile.h"
 
+#include "ownfiles.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
@@ -48,7 +50,7 @@ bool ExchangeFile::append(const QByteArray &lines)
 bool ExchangeFile::begin()
 {
     m_file.close();
-    m_folder.mkpath(u"."_s);
+    makeOwnFolder(m_folder.path());
     const QByteArray dropped = makeRoom();
     m_file.setFileName(m_folder.filePath(connection() + numbered(m_parts + 1, 4) + u".log"_s));
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::NewOnly | QIODevice::Unbuffered))

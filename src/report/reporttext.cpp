@@ -5,6 +5,7 @@
 #include "sourcetext.h"
 #include "visibletext.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -223,9 +224,17 @@ QTextTable &insertRow(QTextDocument &document, const Fill &fill)
 
 QImage logoPicture(const QString &file)
 {
+    constexpr qint64 kLargest = 16 << 20;
+    constexpr int kMostDots = 40'000'000;
+    const QFileInfo info(file);
+    if (!info.isFile() || info.size() > kLargest) // a pipe would be waited for
+        return {};
     QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    return file.isEmpty() ? QImage() : reader.read();
+    const bool isPlain = reader.format() == "png" || reader.format() == "jpeg"; // others open further files
+    const QSize size = reader.size();
+    return isPlain && size.width() <= kMostDots / std::max(1, size.height()) ? reader.read() : QImage();
 }
 
 /// The mark of an object in a text would be taken for one of the drawn ones.

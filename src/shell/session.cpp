@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "railrows.h"
 #include "replycodes.h"
+#include "settingkeys.h"
 #include "settings.h"
 
 #include <QDir>
@@ -146,7 +147,7 @@ void Session::offerHelpVideo()
         if (answer != Answer::Yes)
             return;
         withStore<QString>(
-            Store::Access::Read, [](Store &store) { return setting(store, kHelpVideo); }, this,
+            Store::Access::Read, [](Store &store) { return checkedSetting(store, kHelpVideo); }, this,
             [this](const QString &address) {
                 if (!address.isEmpty())
                     openAddress(address);

@@ -1,5 +1,8 @@
 #include "windowstate.h"
 
+#include "ownfiles.h"
+
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -32,6 +35,7 @@ WindowState windowStateFrom(const QString &file)
 
 bool keepWindowState(const WindowState &state, const QString &file)
 {
+    makeOwnFolder(QFileInfo(file).absolutePath());
     QSettings kept(file, QSettings::IniFormat);
     kept.setValue(QLatin1StringView(kGeometry), state.geometry);
     kept.setValue(QLatin1StringView(kScreens), state.screens);

@@ -103,6 +103,15 @@ static constexpr NoticeRow kWorkbenchMessages[] = {
      Information,
      {u"Valor não aceito para %1: %2\nAceito: %3", u"Value not accepted for %1: %2\nAccepted: %3",
       u"Valor no aceptado para %1: %2\nAceptado: %3"}},
+    // A store from elsewhere: %1 the address
+    {u"PROBE_NOT_ACCEPTED",
+     Information,
+     {u"O endereço de teste da internet não foi definido neste computador e não foi consultado: %1\nPara aceitá-lo: "
+      u"prelt store set probe-address …",
+      u"The address that tests the internet was not set on this computer and was not asked: %1\nTo accept it: prelt "
+      u"store set probe-address …",
+      u"La dirección que prueba internet no se definió en este equipo y no se consultó: %1\nPara aceptarla: prelt "
+      u"store set probe-address …"}},
     {u"SETTING_NO_FILE",
      Information,
      {u"Arquivo não encontrado: %2\nAceito para %1: uma imagem %3",

@@ -12,6 +12,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -61,6 +65,59 @@ private slots:
         QCOMPARE(again.code, 4);
         QVERIFY(again.errors.contains(m_home.path().toUtf8()));
         QCOMPARE(again.errors.count('\n'), 1);
+    }
+
+#ifdef Q_OS_UNIX
+    // None of them is waited for.
+    void oddRepliesAreRefused()
+    {
+        const QString pipe = m_home.filePath(u"pipe"_s);
+        const QString big = m_home.filePath(u"big"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QFile file(big);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(20 << 20));
+        for (const QString &path : {pipe, m_home.path(), u"/dev/zero"_s, big}) {
+            const Outcome judged = atHome(u"judge buckldo --kind 1 --model \"IP 7\" --reply "_s + path);
+            QCOMPARE(judged.code, 2);
+            QVERIFY(judged.errors.contains(path.toUtf8()));
+            QCOMPARE(judged.errors.count('\n'), 1);
+        }
+        QCOMPARE(atHome(kJudge, QByteArray((16 << 20) + 1, 'x')).code, 2);
+    }
+
+    void silentInputEndsInTime()
+    {
+        QProcess program;
+        program.start(QStringLiteral(PRELT_PROGRAM),
+                      QProcess::splitCommand(kJudge + "--timeout 1 --home "_L1 + m_home.path()));
+        QVERIFY(program.waitForFinished(30000)); // its input is open, and nothing comes
+        QCOMPARE(program.exitCode(), 3);
+        QCOMPARE(atHome(kJudge + "--timeout 60"_L1, replyOf(u"IP 7"_s)).code, 0);
+    }
+
+    void strangeHomesAreNamed()
+    {
+        const QStringList before = QDir(m_home.path()).entryList(QDir::Dirs);
+        QProcess program;
+        program.start(u"/bin/sh"_s, {u"-c"_s, u"PRELT_HOME=$(printf '%s/\\377' \"$1\") exec \"$2\" store init"_s,
+                                     u"sh"_s, m_home.path(), QStringLiteral(PRELT_PROGRAM)});
+        QVERIFY(program.waitForFinished(30000));
+        QCOMPARE(program.exitCode(), 4);
+        QVERIFY(program.readAllStandardError().contains("PRELT_HOME"));
+        QCOMPARE(QDir(m_home.path()).entryList(QDir::Dirs), before);
+    }
+#endif
+
+    void storedAddressIsChecked()
+    {
+        const QTemporaryDir home;
+        QCOMPARE(prelt(u"store init --home "_s + home.path()).code, 0);
+        OtherProgram(home.filePath(u"Config.pmx"_s))
+            .run(u"Insert into Settings (Name, Value) values ('report-host', 'file:///etc')"_s);
+        const Outcome judged = prelt(u"judge acorn --model \"IP X\" --reply - --report-url --home "_s + home.path(),
+                                     "\r\nacorn vc : 1100.0000 mV\r\n[0:0] :-) ");
+        QCOMPARE(judged.code, 4);
+        QVERIFY(judged.out.isEmpty() && judged.errors.contains("report-host"));
     }
 
     void judgesSavedReplies_data()

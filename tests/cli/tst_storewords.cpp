@@ -82,7 +82,7 @@ private slots:
         QCOMPARE(run(old, u"init"_s) + run(home, u"init"_s), 0);
         QCOMPARE(run(old, u"set"_s, u"speed"_s, u"G2"_s), 0);
         QCOMPARE(run(home, u"import"_s, old.filePath(u"Config.pmx"_s)), 0);
-        QVERIFY(QFile::exists(home.filePath(u"backups/Config.pmx.bak1"_s)));
+        QCOMPARE(QDir(home.filePath(u"backups"_s)).entryList({u"Config.pmx.bak-*"_s}).size(), 1);
     }
 
 private:

@@ -1,9 +1,11 @@
+#include "backupkeeping.h"
 #include "backups.h"
 #include "columns.h"
 #include "csv.h"
 #include "journal.h"
 #include "oddrows.h"
 #include "otherprogram.h"
+#include "ownfiles.h"
 #include "queries.h"
 #include "recordings.h"
 #include "seeds.h"
@@ -342,35 +344,153 @@ private slots:
         QVERIFY(!*recordingFor(writer, u"IP 7"_s, u"b"_s));
     }
 
+    void spareBackups_data()
+    {
+        // Hours before noon of a Thursday, and the places that may go.
+        columns<QList<int>, QList<qsizetype>>({"hours", "spare"});
+        constexpr int kDay = 24;
+        const auto row = [](const char *name, const QList<int> &hours, const QList<qsizetype> &spare) {
+            QTest::newRow(name) << hours << spare;
+        };
+        row("none", {}, {});
+        row("five of one hour", {0, 0, 0, 0, 0}, {});
+        row("more starts than five a day", {0, 1, 2, 3, 4, 5, 6, 7}, {5, 6, 7});
+        row("yesterday's last stays", {0, 1, 2, 3, 4, 5, kDay, kDay + 1}, {5, 7});
+        row("a week by day", {0, 24, 48, 72, 96, 120, 144, 145}, {7});
+        // The day of the week before last: Thursday to Monday are of one week, Sunday is of the one before.
+        row("then by week", {0, 0, 0, 0, 0, 7 * kDay, 8 * kDay, 9 * kDay, 10 * kDay, 11 * kDay}, {6, 7, 8});
+        row("a quarter, no more", {0, 0, 0, 0, 0, 90 * kDay, 91 * kDay}, {6});
+        row("old ones stay while they are the last", {400 * kDay, 500 * kDay}, {});
+        row("a clock that was ahead", {-3000 * kDay, 0, 1, 2, 3, 4, 5}, {5, 6});
+    }
+
+    void spareBackups()
+    {
+        QFETCH(QList<int>, hours);
+        const QDateTime noon(QDate(2026, 3, 12), QTime(12, 0), Qt::UTC);
+        QList<QDateTime> made;
+        for (const int before : hours)
+            made += noon.addSecs(-3600LL * before);
+        QTEST(::spareBackups(made, noon.date()), "spare");
+    }
+
     void backupsRoll()
     {
-        const auto models = [this](int number) {
-            const QString backup = m_folder->filePath(u"backups/Config.pmx.bak%1"_s.arg(number));
-            const Result<Store> kept = Store::open(backup, Store::Access::Read, 0ms);
-            return kept ? *lastModel(*kept) : u"(none)"_s;
-        };
+        const QDateTime noon(QDate(2026, 3, 12), QTime(12, 0), Qt::UTC);
+        const auto names = [this] { return contentsOf(backupFolder(path())).keys(); };
         const auto choose = [this](const QString &model) {
             Store writer = store();
             return bool(rememberModel(writer, model));
         };
-        QCOMPARE(*rollBackups(path(), 2), true);
-        QCOMPARE(*rollBackups(path(), 2), false);
+        QCOMPARE(*rollBackups(path(), 0ms, noon), true);
+        QCOMPARE(*rollBackups(path(), 0ms, noon), false);
         QVERIFY(choose(u"IP 6"_s));
-        QCOMPARE(*rollBackups(path(), 2), true);
+        QCOMPARE(*rollBackups(path(), 0ms, noon), true);
         QVERIFY(choose(u"IP 6"_s)); // written again, the same
-        QCOMPARE(*rollBackups(path(), 2), false);
-        QVERIFY(choose(u"IP 7"_s));
-        QCOMPARE(*rollBackups(path(), 2), true);
-        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
-        QCOMPARE(contentsOf(backupFolder(path())).keys(), (QStringList{u"Config.pmx.bak1"_s, u"Config.pmx.bak2"_s}));
+        QCOMPARE(*rollBackups(path(), 0ms, noon), false);
+        QCOMPARE(names(),
+                 (QStringList{u"Config.pmx.bak-20260312-120000000"_s, u"Config.pmx.bak-20260312-120000001"_s}));
+        const Result<Store> kept =
+            Store::open(backupFolder(path()) + u"/Config.pmx.bak-20260312-120000001"_s, Store::Access::Read, 0ms);
+        QCOMPARE(*lastModel(*kept), u"IP 6"_s);
 
-        QVERIFY(QFile::remove(m_folder->filePath(u"backups/Config.pmx.bak1"_s))); // a gap is no hindrance
-        QCOMPARE(*rollBackups(path(), 2), true);
-        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
         OtherProgram(path()).run(u"PRAGMA application_id = 252006673"_s);
-        QCOMPARE(keyOf(rollBackups(path(), 2)), u"BACKUP_FAILED"_s);
-        QCOMPARE(models(1) + models(2), u"IP 7IP 6"_s);
+        QCOMPARE(keyOf(rollBackups(path(), 0ms, noon)), u"BACKUP_FAILED"_s);
+        QCOMPARE(names().size(), 2);
     }
+
+    // A bench that is started again and again in the morning has yesterday's store all the same.
+    void startsDoNotPushOut()
+    {
+        const QString folder = backupFolder(path());
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        QVERIFY(rollBackups(path(), 0ms, now.addDays(-1)));
+        QFile yesterday(folder + u'/' + contentsOf(folder).firstKey());
+        QVERIFY(yesterday.open(QIODevice::ReadWrite) &&
+                yesterday.setFileTime(now.addDays(-1), QFileDevice::FileModificationTime));
+        yesterday.close();
+        QFile other(folder + u"/Config.pmx.bak1"_s); // of an earlier version, and too old
+        QVERIFY(other.open(QIODevice::WriteOnly) &&
+                other.setFileTime(now.addDays(-200), QFileDevice::FileModificationTime));
+        other.close();
+        QVERIFY(QFile::copy(path(), folder + u"/Config-mine.pmx"_s));
+        for (int start = 0; start < 9; ++start) {
+            {
+                Store writer = store();
+                QVERIFY(setSetting(writer, u"n"_s, QString::number(start)));
+            }
+            QCOMPARE(*rollBackups(path(), 0ms, now), true);
+        }
+        QCOMPARE(contentsOf(folder).size(), 5 + 1 + 1);
+        QVERIFY(yesterday.exists() && !other.exists() && QFile::exists(folder + u"/Config-mine.pmx"_s));
+    }
+
+    void lockedStoreIsTold()
+    {
+        OtherProgram other(path());
+        other.run(u"BEGIN EXCLUSIVE"_s);
+        QCOMPARE(keyOf(rollBackups(path())), u"STORE_LOCKED"_s);
+        QCOMPARE(keyOf(backupStore(path(), freeBackupName(path()))), u"STORE_LOCKED"_s);
+    }
+
+    void twoBackupsWithinASecond()
+    {
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(keyOf(backupStore(path(), freeBackupName(path()))), u"done"_s);
+        QCOMPARE(contentsOf(backupFolder(path())).size(), 3);
+    }
+
+    void danglingLinkIsNamed()
+    {
+        const QString link = m_folder->filePath(u"Link.pmx"_s);
+        QVERIFY(QFile::link(m_folder->filePath(u"gone"_s), link));
+        for (const Result<Done> &outcome :
+             {createStore(link), inspectStore(link, StoreRole::Reference, Depth::Quick)}) {
+            QCOMPARE(keyOf(outcome), u"STORE_FAILED"_s);
+            QVERIFY(outcome.trouble().what.arguments.value(1).contains(u"gone"_s));
+        }
+    }
+
+#ifdef Q_OS_UNIX
+    void ownerAlone()
+    {
+        const auto others = [](const QString &file) {
+            return QFileInfo(file).permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                                    QFile::ReadOther | QFile::WriteOther | QFile::ExeOther);
+        };
+        const QString made = m_folder->filePath(u"new/Config.pmx"_s);
+        QVERIFY(createStore(made) && rollBackups(made) && backupStore(made, m_folder->filePath(u"new/b"_s)));
+        const QString rolled = backupFolder(made) + u'/' + contentsOf(backupFolder(made)).firstKey();
+        for (const QString &file :
+             {m_folder->filePath(u"new"_s), made, backupFolder(made), rolled, m_folder->filePath(u"new/b"_s)})
+            QVERIFY2(!others(file), qPrintable(file));
+        OtherProgram writer(made);
+        writer.runAll({u"BEGIN"_s, u"Update Master set G1 = 'x'"_s});
+        QVERIFY(!others(made + u"-journal"_s));
+    }
+
+    // A folder that a group shares stays usable for the group.
+    void sharedFolder()
+    {
+        const QString shared = m_folder->filePath(u"shared"_s);
+        QVERIFY(QDir().mkdir(shared));
+        QVERIFY(QFile::setPermissions(shared, QFile::Permissions(0x7070)));
+        QVERIFY(createStore(shared + u"/Config.pmx"_s) && rollBackups(shared + u"/Config.pmx"_s));
+        QVERIFY(QFileInfo(shared + u"/Config.pmx"_s).permission(QFile::ReadGroup | QFile::WriteGroup));
+        QVERIFY(!QFileInfo(shared + u"/Config.pmx"_s).permission(QFile::ReadOther));
+        QVERIFY(QFileInfo(shared + u"/backups"_s).permission(QFile::WriteGroup | QFile::ExeGroup));
+    }
+
+    void openFoldersAreClosedOnce()
+    {
+        QVERIFY(QFile::setPermissions(path(), QFile::Permissions(0x6044)));
+        QCOMPARE(closeToOthers(m_folder->path()), 1);
+        QVERIFY(!QFileInfo(path()).permission(QFile::ReadOther));
+        QVERIFY(QFile::setPermissions(path(), QFile::Permissions(0x6044)));
+        QCOMPARE(closeToOthers(m_folder->path()), 0); // opened again on purpose
+        QVERIFY(QFileInfo(path()).permission(QFile::ReadOther));
+    }
+#endif
 
     void failingBackupLeavesNothing()
     {
@@ -478,8 +598,14 @@ private slots:
     }
 
 private:
-    QString path() const { return m_folder->filePath(u"Config.pmx"_s); }
-    Store store() const { return std::move(*Store::open(path(), Store::Access::Write, 0ms)); }
+    QString path() const
+    {
+        return m_folder->filePath(u"Config.pmx"_s);
+    }
+    Store store() const
+    {
+        return std::move(*Store::open(path(), Store::Access::Write, 0ms));
+    }
     Integrity integrity(const QString &command) const
     {
         const Store reader = std::move(*Store::open(path(), Store::Access::Read, 0ms));

@@ -15,6 +15,10 @@
 #include <algorithm>
 #include <memory>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 static ReportDocument reportOf(qsizetype findings, Language language)
@@ -124,6 +128,36 @@ private slots:
             QVERIFY(bool(writeReport(report, path)));
             QCOMPARE(contents(path).contains("/Subtype /Image"), file == logo);
         }
+    }
+
+    // The store may come from anywhere: what it names as a picture is looked at before it is opened.
+    void oddLogosAreLeftOut_data()
+    {
+        QTest::addColumn<QString>("file");
+        const auto made = [this](const char *name, const QByteArray &bytes) {
+            const QString path = m_folder.filePath(QString::fromLatin1(name));
+            QFile file(path);
+            if (file.open(QIODevice::WriteOnly))
+                file.write(bytes);
+            return path;
+        };
+        QTest::newRow("a folder") << m_folder.path();
+        QTest::newRow("a drawing that names files")
+            << made("logo.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)");
+        QTest::newRow("a header of endless dots") << made(
+            "huge.png", QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000ffff0000ffff0802000000") + "junk");
+#ifdef Q_OS_UNIX
+        const QString pipe = m_folder.filePath(u"pipe"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QTest::newRow("a pipe") << pipe;
+        QTest::newRow("a device") << u"/dev/zero"_s;
+#endif
+    }
+
+    void oddLogosAreLeftOut()
+    {
+        QFETCH(QString, file);
+        QCOMPARE(logoTrouble(file)->key, u"LOGO_NOT_READ"_s);
     }
 
     void isMadeInAWorker()
