@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr qsizetype kTipWidth = 100;
+static constexpr qsizetype kTipWidth = 80;
 static constexpr qsizetype kLongestTip = 4000;
 
 /// Breaks a line where it has a blank, or else anywhere: a tooltip is as wide as its longest line.
