@@ -143,7 +143,7 @@ private slots:
         };
         QTest::newRow("a folder") << m_folder.path();
         QTest::newRow("a drawing that names files")
-            << made("logo.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)");
+            << made("logo.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
         QTest::newRow("a header of endless dots") << made(
             "huge.png", QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000ffff0000ffff0802000000") + "junk");
 #ifdef Q_OS_UNIX
