@@ -16,8 +16,7 @@ static constexpr int kRepeats = 2;
 static constexpr auto kPause = 1000ms;
 
 SurveyScreen::SurveyScreen(Session &session, QObject *parent)
-    : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent),
-      m_journal(session.store())
+    : Screen(session, u"Survey"_s, {kSurveyCode, kSurveyLongCode}, parent), m_journal(session.store())
 {
     m_timerPasso.setInterval(kTick);
     connect(&m_timerPasso, &QTimer::timeout, this, &SurveyScreen::TimerPasso_Timer);
