@@ -70,10 +70,12 @@ QByteArray ExchangeFile::makeRoom()
         parts.append({file.filePath(), file.fileName().section(u'-', 0, -2), file.size(), file.lastModified()});
     const ExchangeRoom room = roomFor(connection(), parts, m_limits);
     QByteArray told;
-    for (const ExchangePart &part : room.dropped)
-        if (QFile::remove(part.path))
+    for (const ExchangePart &part : room.dropped) {
+        if (QFile::remove(part.path)) {
             told += "# dropped to make room: " + QFileInfo(part.path).fileName().toUtf8() + ", " +
                     QByteArray::number(part.size) + " bytes\n";
+        }
+    }
     m_hasDroppedOfFlood = m_hasDroppedOfFlood || (room.hasFlood && !told.isEmpty());
     return told;
 }

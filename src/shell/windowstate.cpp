@@ -35,7 +35,8 @@ WindowState windowStateFrom(const QString &file)
 
 bool keepWindowState(const WindowState &state, const QString &file)
 {
-    makeOwnFolder(QFileInfo(file).absolutePath());
+    const QString folder = QFileInfo(file).absolutePath();
+    makeOwnFolder(folder);
     QSettings kept(file, QSettings::IniFormat);
     kept.setValue(QLatin1StringView(kGeometry), state.geometry);
     kept.setValue(QLatin1StringView(kScreens), state.screens);
@@ -43,5 +44,6 @@ bool keepWindowState(const WindowState &state, const QString &file)
     kept.setValue(QLatin1StringView(kPort), state.port);
     kept.setValue(QLatin1StringView(kTheme), QString(kThemes.at(static_cast<std::size_t>(state.theme))));
     kept.sync();
+    keepToOwner(file, folder);
     return kept.status() == QSettings::NoError;
 }

@@ -44,11 +44,12 @@ void SurveyJournal::closeLeftOpen(StoreQueue &store, QObject *context)
     const auto close = [&store, context](const Result<QStringList> &open) {
         QStringList left = open ? *open : QStringList();
         left.removeIf([&store](const QString &survey) { return !markOf(store.path(), survey)->tryLock(); });
-        if (!left.isEmpty()) { // a store that takes nothing keeps them open until it does
-            store.run<Done>(
-                Store::Access::Write, [left](Store &writable) { return closeAll(writable, left); }, context,
-                [](const Result<Done> &) {});
-        }
+        if (left.isEmpty())
+            return;
+        // A store that takes nothing keeps them open until it does.
+        store.run<Done>(
+            Store::Access::Write, [left](Store &writable) { return closeAll(writable, left); }, context,
+            [](const Result<Done> &) {});
     };
     store.run<QStringList>(
         Store::Access::Read, [](Store &readable) { return surveysOf(readable, word(SurveyEnd::Open)); }, context,
