@@ -127,6 +127,8 @@ Result<Done> backupStore(const QString &path, const QString &target, std::chrono
         return storeTrouble(u"STORE_FAILED"_s, target, made.errorString());
     const QString copy = made.filePath(u"copy"_s);
     const Result<Done> copied = copyInto(path, copy, patience);
+    if (!copied && copied.trouble().what.key == "STORE_FULL"_L1)
+        return toldOf(target, copied.trouble());
     return copied ? place(copy, target) : copied;
 }
 

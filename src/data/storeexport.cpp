@@ -4,6 +4,7 @@
 #include "queries.h"
 #include "schema.h"
 #include "storetrouble.h"
+#include "wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -55,14 +56,22 @@ public:
         }
         m_written += path;
         if (file.write(bytes) != bytes.size() || !file.flush())
-            return storeTrouble(file.error() == QFile::ResourceError ? u"STORE_FULL"_s : u"STORE_FAILED"_s, path,
-                                file.errorString());
+            return notWritten(file, bytes.size());
         return Done{};
     }
 
     void keep() { m_written.clear(); }
 
 private:
+    static Trouble notWritten(const QFile &file, qint64 size)
+    {
+        const bool isFull = file.error() == QFile::ResourceError || isDiskFull(file.fileName(), size);
+        if (isFull)
+            return storeTrouble(u"STORE_FULL"_s, file.fileName(), u"no space left on the disk"_s);
+        const bool isTold = file.error() != QFile::NoError;
+        return storeTrouble(u"STORE_FAILED"_s, file.fileName(), isTold ? file.errorString() : u"it was cut short"_s);
+    }
+
     QStringList m_written;
 };
 

@@ -7,11 +7,16 @@
 
 using namespace Qt::StringLiterals;
 
+bool isDiskFull(const QString &path, qint64 size)
+{
+    const QStorageInfo disk(QFileInfo(path).absolutePath());
+    return disk.isValid() && disk.bytesAvailable() < size;
+}
+
 /// The system's words; a disk that is full has none when it shows only as the last bytes are written out.
 static QString reasonOf(const QSaveFile &file, qint64 size)
 {
-    const QStorageInfo disk(QFileInfo(file.fileName()).absolutePath());
-    const bool isFull = file.error() != QFileDevice::OpenError && disk.isValid() && disk.bytesAvailable() < size;
+    const bool isFull = file.error() != QFileDevice::OpenError && isDiskFull(file.fileName(), size);
     return isFull ? u"No space left on device"_s : file.errorString();
 }
 

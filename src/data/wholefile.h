@@ -11,3 +11,6 @@ Result<Done> writeWhole(const QByteArray &document, const QString &path);
 
 /// The same for a copy of a file.
 Result<Done> copyWhole(const QString &original, const QString &path);
+
+/// Whether what could not be written there had no room: the system does not always say so.
+bool isDiskFull(const QString &path, qint64 size);

@@ -8,20 +8,18 @@
 
 using namespace Qt::StringLiterals;
 
-static void append(const QByteArray &line)
-{
-    ExchangeFile(stateFolder(), {}).append(line);
-}
-
 void keepFoldersToOwner(const QString &givenHome)
 {
     QStringList folders{stateFolder()};
     if (isHomeByDefault(givenHome))
         folders += homeFolder();
+    QByteArray lines;
     for (const QString &folder : folders) {
-        const int closed = closeToOthers(folder);
-        if (closed > 0)
-            append("# closed to all but their owner: " + QByteArray::number(closed) + " files and folders in " +
-                   folder.toUtf8() + '\n');
+        if (const int closed = closeToOthers(folder); closed > 0) {
+            lines += "# closed to all but their owner: " + QByteArray::number(closed) + " files and folders in " +
+                     folder.toUtf8() + '\n';
+        }
     }
+    if (!lines.isEmpty())
+        ExchangeFile(stateFolder(), {}).append(lines);
 }

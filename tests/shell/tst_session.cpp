@@ -1,12 +1,17 @@
 #include "catalogue.h"
 #include "columns.h"
+#include "home.h"
+#include "ownfolders.h"
 #include "portresolver.h"
 #include "railrows.h"
 #include "serialport.h"
 #include "sessionbench.h"
 #include "settings.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -20,6 +25,30 @@ class TestSession : public QObject
     Q_OBJECT
 
 private slots:
+#ifdef Q_OS_UNIX
+    // Each is told, for they are closed one after the other within one moment.
+    void openFoldersAreClosedAndLogged()
+    {
+        const QTemporaryDir user;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(user.filePath(u"data"_s)));
+        qputenv("XDG_STATE_HOME", QFile::encodeName(user.filePath(u"state"_s)));
+        qunsetenv("PRELT_HOME");
+        for (const QString &folder : {stateFolder(), homeFolder()}) {
+            QVERIFY(QDir().mkpath(folder));
+            QVERIFY(QFile::setPermissions(folder, QFile::Permissions(0x7055)));
+        }
+        keepFoldersToOwner({});
+        for (const QString &folder : {stateFolder(), homeFolder()})
+            QVERIFY(!QFileInfo(folder).permission(QFile::ReadOther));
+        const QStringList logs = QDir(stateFolder()).entryList({u"exchange-*.log"_s});
+        QCOMPARE(logs.size(), 1);
+        QFile log(stateFolder() + u'/' + logs.first());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray text = log.readAll();
+        QVERIFY(text.contains(stateFolder().toUtf8() + '\n') && text.contains(homeFolder().toUtf8() + '\n'));
+    }
+#endif
+
     void recordIsCut_data()
     {
         columns<QByteArray, Kind, QString>({"bytes", "kind", "record"});
